@@ -1,0 +1,155 @@
+#include "gamedata/GameDatabase.h"
+
+#include <fstream>
+#include <sstream>
+
+#include "gamedata/GameRecords.h"
+#include "model/FileWriter.h"
+#include "model/LineTokenizer.h"
+#include "model/Result.h"
+#include "model/TextLines.h"
+
+namespace {
+
+class CHeaderLine {
+public:
+    explicit CHeaderLine(std::istream& in) {
+        std::string line;
+        ReadTextLine(in, line);
+        m_tokenizer.SetDelimiter('|');
+        m_tokenizer.SetLine(line);
+    }
+    double Number() {
+        const double value = m_tokenizer.ReadNumber();
+        ++m_tokenizer.Position();
+        return value;
+    }
+    std::string Text() {
+        std::string value = m_tokenizer.ReadString();
+        ++m_tokenizer.Position();
+        return value;
+    }
+
+private:
+    CLineTokenizer m_tokenizer;
+};
+
+template <typename Record>
+void ReadSection(std::istream& in, CDataList& list) {
+    for (;;) {
+        auto record = std::make_unique<Record>();
+        record->ReadFrom(in);
+        if (record->IsEnd()) {
+            return;
+        }
+        list.PushBack(std::move(record));
+    }
+}
+
+void WriteSection(std::ostream& out, CDataList& list, const char* endTag) {
+    for (CDataListNode* n = list.Head(); n; n = n->m_pNext) {
+        n->m_pPayload->WriteTo(out, 1);
+    }
+    out << endTag;
+}
+
+}  // namespace
+
+CGameDatabase::CGameDatabase() : m_Kinds(KeywordOf), m_Types(TypeNameOf) { m_nType = TYPE_DATABASE; }
+
+void CGameDatabase::ReadFrom(std::istream& in) {
+    m_strName = CHeaderLine(in).Text();
+    CHeaderLine geometry(in);
+    for (auto& value : m_nIconGeometry) {
+        value = StoreTruncated<std::uint8_t>(geometry.Number());
+    }
+    CHeaderLine sizes(in);
+    for (auto& value : m_nCellSizes) {
+        value = StoreTruncated<std::int16_t>(sizes.Number());
+    }
+    CHeaderLine switches(in);
+    m_nOobHeader = StoreTruncated<std::uint8_t>(switches.Number());
+    m_nDefaultThird = StoreTruncated<std::uint8_t>(switches.Number());
+    m_nLeaderExtras = StoreTruncated<std::uint8_t>(switches.Number());
+    m_nDefaultReserved = StoreTruncated<std::uint8_t>(switches.Number());
+    m_nFormatVariant = StoreTruncated<std::uint8_t>(switches.Number());
+    m_dFanaticBonus = switches.Number();
+    m_nMinQuality = StoreTruncated<std::int16_t>(switches.Number());
+    m_nMaxQuality = StoreTruncated<std::int16_t>(switches.Number());
+    // The list has room for ten names: a larger count is cut to ten, so that the file written
+    // back names as many countries as it counts.
+    m_nCountryCount = StoreTruncated<std::uint8_t>(switches.Number());
+    if (m_nCountryCount > kMaxCountries) {
+        m_nCountryCount = kMaxCountries;
+    }
+    CHeaderLine countries(in);
+    for (std::size_t i = 0; i < m_nCountryCount; ++i) {
+        m_strCountries[i] = countries.Text();
+    }
+    std::string skipped;
+    ReadTextLine(in, skipped);  // the end of the header, whatever it holds
+
+    ReadSection<CKindRecord>(in, m_Kinds);
+    ReadSection<CBaseTypeRecord>(in, m_BaseTypes);
+    ReadSection<CTypeRecord>(in, m_Types);
+    ReadSection<CAttachedOobRecord>(in, m_AttachedOobs);
+    m_strTemplateFile = CHeaderLine(in).Text();
+    const int before = m_Templates.Count();
+    ReadSection<CTemplateRecord>(in, m_Templates);
+    int ordinal = 0;
+    for (CDataListNode* n = m_Templates.SeekIndex(before); n; n = n->m_pNext) {
+        static_cast<CTemplateRecord&>(*n->m_pPayload).m_nOrdinal =
+            static_cast<std::uint8_t>(before + ordinal++);
+    }
+}
+
+void CGameDatabase::WriteTo(std::ostream& out, std::uint8_t) {
+    out << '\t' << m_strName << '|' << kLineEnd << '\t';
+    for (auto value : m_nIconGeometry) {
+        out << static_cast<unsigned>(value) << '|';
+    }
+    out << kLineEnd << '\t';
+    for (auto value : m_nCellSizes) {
+        out << value << '|';
+    }
+    out << kLineEnd << '\t' << static_cast<unsigned>(m_nOobHeader) << '|'
+        << static_cast<unsigned>(m_nDefaultThird) << '|' << static_cast<unsigned>(m_nLeaderExtras)
+        << '|' << static_cast<unsigned>(m_nDefaultReserved) << '|'
+        << static_cast<unsigned>(m_nFormatVariant) << '|' << FormatNumber(m_dFanaticBonus) << '|'
+        << m_nMinQuality << '|' << m_nMaxQuality << '|' << static_cast<unsigned>(m_nCountryCount)
+        << '|' << kLineEnd << '\t';
+    for (std::size_t i = 0; i < m_nCountryCount && i < kMaxCountries; ++i) {
+        out << m_strCountries[i] << '|';
+    }
+    out << kLineEnd << "</A>" << kLineEnd;
+    WriteSection(out, m_Kinds, "</B>");
+    out << kLineEnd;
+    WriteSection(out, m_BaseTypes, "</C>");
+    out << kLineEnd;
+    WriteSection(out, m_Types, "</D>");
+    out << kLineEnd;
+    WriteSection(out, m_AttachedOobs, "</E>");
+    out << kLineEnd << '\t' << m_strTemplateFile << '|' << kLineEnd;
+    WriteSection(out, m_Templates, "</F>");  // the file's last line has no line break
+}
+
+std::string CGameDatabase::ToText() {
+    std::ostringstream out;
+    WriteTo(out, 0);
+    return std::move(out).str();
+}
+
+int CGameDatabase::Save(const std::string& path) {
+    m_strFilePath = path;
+    return ReplaceFile(path, ToText());
+}
+
+int CGameDatabase::Load(const std::string& path) {
+    m_strFilePath = path;
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        return RESULT_CANNOT_OPEN;
+    }
+    ReadFrom(in);
+    return RESULT_DONE;
+}

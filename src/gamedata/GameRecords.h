@@ -1,0 +1,129 @@
+// The records of the target platform file. Each reads and writes one line of its section.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "model/DataList.h"
+#include "model/DataObject.h"
+
+class CLineTokenizer;
+
+// Every record carries a status: kNotRead after construction, kEndTag once the line it read
+// was its section's end tag (or the file had ended). In kinds, base types, types and templates
+// the status is the first number of the line, the type or class code, so a data line giving
+// 255 there ends its section as the end tag would.
+class CGameRecord : public CDataObject {
+public:
+    static constexpr std::uint8_t kNotRead = 254;
+    static constexpr std::uint8_t kEndTag = 255;
+
+    explicit CGameRecord(const char* endTag) : m_pEndTag(endTag) {}
+
+    // Reads one line: either the end tag or the record's fields.
+    void ReadFrom(std::istream& in) override;
+    bool IsEnd() const { return m_nCode == kEndTag; }
+
+    std::uint8_t m_nCode = kNotRead;
+
+protected:
+    // Fills the fields from a line that is not the end tag; the tokenizer is at field 0.
+    virtual void ReadFields(CLineTokenizer& tokenizer) = 0;
+
+private:
+    const char* m_pEndTag;
+};
+
+// An entry kind (section B): which item class the lines beginning with the keyword make.
+class CKindRecord : public CGameRecord {
+public:
+    CKindRecord() : CGameRecord("</B>") {}
+    void WriteTo(std::ostream& out, std::uint8_t indent) override;
+    std::uint8_t TypeCode() const { return m_nCode; }
+
+    std::uint8_t m_nLevel = 0;
+    std::string m_strKeyword;
+
+protected:
+    void ReadFields(CLineTokenizer& tokenizer) override;
+};
+
+// The cost parameters of a unit class (section C).
+class CBaseTypeRecord : public CGameRecord {
+public:
+    CBaseTypeRecord() : CGameRecord("</C>") {}
+    void WriteTo(std::ostream& out, std::uint8_t indent) override;
+    std::uint8_t ClassCode() const { return m_nCode; }
+
+    std::int16_t m_nBaseQuality = 0;
+    double m_dQualityFactor = 0.0;
+    double m_dBaseCost = 0.0;
+    std::int16_t m_nMenPerPoint = 0;
+    std::int16_t m_nMaxStrength = 0;
+
+protected:
+    void ReadFields(CLineTokenizer& tokenizer) override;
+};
+
+// A weapon a type may carry; lives in its type's list.
+class CWeaponRecord : public CGameRecord {
+public:
+    CWeaponRecord() : CGameRecord("</W>") {}
+    void WriteTo(std::ostream& out, std::uint8_t indent) override;
+
+    std::string m_strWeapon;
+    double m_dCostModifier = 0.0;
+
+protected:
+    void ReadFields(CLineTokenizer& tokenizer) override;
+};
+
+// A unit type, leader command, supply or structure type (section D), with its weapons.
+class CTypeRecord : public CGameRecord {
+public:
+    CTypeRecord();
+    void ReadFrom(std::istream& in) override;
+    void WriteTo(std::ostream& out, std::uint8_t indent) override;
+    std::uint8_t ClassCode() const { return m_nCode; }
+
+    std::string m_strType;
+    double m_dCostModifier = 0.0;
+    CDataList m_Weapons;
+
+protected:
+    void ReadFields(CLineTokenizer& tokenizer) override;
+};
+
+// A ready-made order of battle that New, Attached OOB can copy (section E).
+class CAttachedOobRecord : public CGameRecord {
+public:
+    CAttachedOobRecord() : CGameRecord("</E>") {}
+    void WriteTo(std::ostream& out, std::uint8_t indent) override;
+
+    std::string m_strFile;
+
+protected:
+    void ReadFields(CLineTokenizer& tokenizer) override;
+};
+
+// One template of the template file (section F).
+class CTemplateRecord : public CGameRecord {
+public:
+    CTemplateRecord() : CGameRecord("</F>") {}
+    void WriteTo(std::ostream& out, std::uint8_t indent) override;
+    std::uint8_t TypeCode() const { return m_nCode; }
+
+    std::uint8_t m_nLevel = 0;
+    std::uint8_t m_nCountry = 0;
+    std::uint8_t m_nOrdinal = 0;  // position in the template file; not stored
+    double m_dCost = 0.0;
+
+protected:
+    void ReadFields(CLineTokenizer& tokenizer) override;
+};
+
+// The keys the record lists are indexed by.
+const std::string& TypeNameOf(const CDataObject& record);
+const std::string& WeaponNameOf(const CDataObject& record);
+const std::string& KeywordOf(const CDataObject& record);

@@ -1,0 +1,60 @@
+// The ordered record list of the game database, with a cursor. Searches run from the head and
+// the first match wins.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+#include "model/DataObject.h"
+
+struct CDataListNode {
+    explicit CDataListNode(std::unique_ptr<CDataObject> payload) : m_pPayload(std::move(payload)) {}
+
+    int m_nIndex = 0;
+    CDataListNode* m_pPrev = nullptr;
+    CDataListNode* m_pNext = nullptr;
+    std::unique_ptr<CDataObject> m_pPayload;
+};
+
+class CDataList {
+public:
+    // A list may keep an index by a text key of its records (a type's name, a weapon's name),
+    // so that the first-match search by that key does not walk the list. The index is kept in
+    // step by PushBack and PushFront; a record's key must not change while it is in the list.
+    using KeyOf = const std::string& (*)(const CDataObject&);
+
+    explicit CDataList(KeyOf keyOf = nullptr) : m_keyOf(keyOf) {}
+    ~CDataList() { Clear(); }
+    CDataList(const CDataList&) = delete;
+    CDataList& operator=(const CDataList&) = delete;
+
+    void Init();
+    void PushBack(std::unique_ptr<CDataObject> payload);
+    void PushFront(std::unique_ptr<CDataObject> payload);
+    void Rewind() { m_pCursor = m_pHead; }
+    CDataListNode* Current() const { return m_pCursor; }
+    CDataListNode* Next();
+    CDataListNode* Prev();
+    CDataListNode* Move(int n);
+    CDataListNode* SeekIndex(int n);
+    CDataListNode* Head() const { return m_pHead; }
+    CDataListNode* Tail() const { return m_pTail; }
+    int Count() const { return m_nCount; }
+    void Clear();
+
+    // The payload under the cursor, or none.
+    CDataObject* CurrentPayload() const { return m_pCursor ? m_pCursor->m_pPayload.get() : nullptr; }
+
+    // The first record whose key equals key, leaving the cursor on it (none when there is no
+    // such record). Only for a list made with a key.
+    CDataObject* FindByKey(const std::string& key);
+
+private:
+    int m_nCount = 0;
+    CDataListNode* m_pHead = nullptr;
+    CDataListNode* m_pTail = nullptr;
+    CDataListNode* m_pCursor = nullptr;
+    KeyOf m_keyOf;
+    std::unordered_map<std::string, CDataListNode*> m_index;
+};

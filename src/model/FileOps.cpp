@@ -1,0 +1,35 @@
+#include "model/FileOps.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace {
+
+class CPosixFileOps : public CFileOps {
+public:
+    int Open(const std::string& path, int flags, mode_t mode) override {
+        return ::open(path.c_str(), flags | O_CLOEXEC, mode);
+    }
+    ssize_t Write(int fd, const char* data, std::size_t size) override {
+        return ::write(fd, data, size);
+    }
+    int Fchmod(int fd, mode_t mode) override { return ::fchmod(fd, mode); }
+    int Fsync(int fd) override { return ::fsync(fd); }
+    int Close(int fd) override { return ::close(fd); }
+    int Rename(const std::string& from, const std::string& to) override {
+        return std::rename(from.c_str(), to.c_str());
+    }
+    int Unlink(const std::string& path) override { return ::unlink(path.c_str()); }
+};
+
+CPosixFileOps g_posix;
+CFileOps* g_pOps = &g_posix;
+
+}  // namespace
+
+CFileOps& FileOps() { return *g_pOps; }
+
+void SetFileOps(CFileOps* ops) { g_pOps = ops ? ops : &g_posix; }

@@ -1,0 +1,49 @@
+// Takes one text line apart field by field. Every reader of the program hands its lines to one
+// of these, with the delimiter of its file format.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+class CLineTokenizer {
+public:
+    // The longest line the tokenizer holds; longer text is cut.
+    static constexpr std::size_t kMaxLine = 255;
+
+    virtual ~CLineTokenizer() = default;
+
+    // Must come before the first SetLine: the delimiter takes part in normalisation.
+    void SetDelimiter(char delimiter) { m_cDelimiter = delimiter; }
+    void SetLine(const std::string& text);
+    std::string GetLine() const { return m_strLine; }
+
+    // The cursor is wider than a line needs so that stepping past the end never wraps back
+    // to the start of the line.
+    std::size_t& Position() { return m_nCursor; }
+    void SetPosition(std::size_t n) { m_nCursor = n; }
+    void SeekField(int n);
+
+    double ReadNumber();
+    std::string ReadString();
+    std::string ReadRest();
+    bool MatchesPrefix(const std::string& text) const;
+
+    const std::string& Token() const { return m_strToken; }
+
+private:
+    bool AtEnd() const { return m_nCursor >= m_strLine.size(); }
+
+    std::string m_strLine;
+    std::string m_strToken;
+    std::size_t m_nCursor = 0;
+    char m_cDelimiter = '\0';
+};
+
+// Numbers read from a line are stored by truncating toward zero and keeping the low bits of the
+// field's width (300 in an 8-bit field becomes 44). Defined for every double, NaN and infinities
+// included (they give 0), so no file can cause an out-of-range conversion.
+long long TruncateToInteger(double value);
+template <typename Int>
+Int StoreTruncated(double value) {
+    return static_cast<Int>(TruncateToInteger(value));
+}

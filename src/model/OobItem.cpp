@@ -1,0 +1,137 @@
+#include "model/OobItem.h"
+
+#include "gamedata/GameDatabase.h"
+#include "gamedata/GameRecords.h"
+#include "model/LineTokenizer.h"
+#include "model/TreeWalk.h"
+
+void COobItem::Read(const std::string&) {}
+
+void COobItem::ToText(std::string&) const {}
+
+void COobItem::ToHtml(std::string&, const CTreeStore&, HTREEITEM, int) const {}
+
+double COobItem::Cost() const { return 0.0; }
+
+double COobItem::Men() const { return 0.0; }
+
+double COobItem::Aggregate(const CTreeStore&, HTREEITEM, int, int) const { return Cost(); }
+
+std::unique_ptr<COobItem> COobItem::Clone() const { return std::make_unique<COobItem>(*this); }
+
+CKindRecord* COobItem::FindKindByKeyword(const std::string& text) {
+    if (!m_pDatabase) {
+        return nullptr;
+    }
+    return static_cast<CKindRecord*>(m_pDatabase->m_Kinds.FindByKey(text));
+}
+
+CKindRecord* COobItem::FindKindByType(std::uint8_t code) {
+    if (!m_pDatabase) {
+        return nullptr;
+    }
+    CDataList& kinds = m_pDatabase->m_Kinds;
+    for (kinds.Rewind(); kinds.Current(); kinds.Next()) {
+        auto* kind = static_cast<CKindRecord*>(kinds.CurrentPayload());
+        if (kind->TypeCode() == code) {
+            return kind;
+        }
+    }
+    return nullptr;
+}
+
+CBaseTypeRecord* COobItem::FindBaseType(const CTypeRecord* type) {
+    if (!m_pDatabase || !type) {
+        return nullptr;
+    }
+    CDataList& bases = m_pDatabase->m_BaseTypes;
+    for (bases.Rewind(); bases.Current(); bases.Next()) {
+        auto* base = static_cast<CBaseTypeRecord*>(bases.CurrentPayload());
+        if (base->ClassCode() == type->ClassCode()) {
+            return base;
+        }
+    }
+    return nullptr;
+}
+
+CTypeRecord* COobItem::FindType(const std::string& name) {
+    if (!m_pDatabase) {
+        return nullptr;
+    }
+    return static_cast<CTypeRecord*>(m_pDatabase->m_Types.FindByKey(name));
+}
+
+CWeaponRecord* COobItem::FindWeapon(const std::string& name, CTypeRecord* type) {
+    if (!type) {
+        return nullptr;
+    }
+    return static_cast<CWeaponRecord*>(type->m_Weapons.FindByKey(name));
+}
+
+CKindRecord* COobItem::FindKindForLine(const std::string& line) {
+    if (!m_pDatabase) {
+        return nullptr;
+    }
+    CLineTokenizer tokenizer;
+    tokenizer.SetDelimiter(' ');
+    tokenizer.SetLine(line);
+    CDataList& kinds = m_pDatabase->m_Kinds;
+    for (kinds.Rewind(); kinds.Current(); kinds.Next()) {
+        auto* kind = static_cast<CKindRecord*>(kinds.CurrentPayload());
+        if (tokenizer.MatchesPrefix(kind->m_strKeyword)) {
+            return kind;
+        }
+    }
+    return nullptr;
+}
+
+namespace {
+
+bool InCategory(const COobItem& item, int category) {
+    if (category == CATEGORY_ALL) {
+        return true;
+    }
+    if (!item.m_pBaseType) {
+        return false;
+    }
+    switch (item.m_pBaseType->ClassCode()) {
+        case 1:
+            return category == CATEGORY_INFANTRY;
+        case 2:
+            return category == CATEGORY_CAVALRY;
+        case 3:
+            return category == CATEGORY_ARTILLERY;
+        case 4:
+            return category == CATEGORY_LEADERS;
+        case 5:
+            return category == CATEGORY_SUPPLY;
+        default:
+            return false;
+    }
+}
+
+double Measure(const COobItem& item, int measure) {
+    switch (measure) {
+        case MEASURE_COST:
+            return item.Cost();
+        case MEASURE_COUNT:
+            return 1.0;
+        case MEASURE_MEN:
+            return item.Men();
+        default:
+            return 0.0;
+    }
+}
+
+}  // namespace
+
+double COobItem::SumSubtree(const CTreeStore& tree, HTREEITEM entry, int category, int measure) {
+    double sum = 0.0;
+    for (CTreeWalk walk(tree, entry); !walk.Done(); walk.Step()) {
+        const COobItem* item = ItemOf(tree, walk.Current());
+        if (item && InCategory(*item, category)) {
+            sum += Measure(*item, measure);
+        }
+    }
+    return sum;
+}

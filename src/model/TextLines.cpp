@@ -1,0 +1,70 @@
+#include "model/TextLines.h"
+
+#include <cmath>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <istream>
+
+LineRead ReadTextLine(std::istream& in, std::string& line) {
+    if (!std::getline(in, line)) {
+        line.clear();
+        return LineRead::End;
+    }
+    const bool terminated = !in.eof();
+    if (!line.empty() && line.back() == '\r') {
+        line.pop_back();
+    }
+    if (line.size() > kMaxLineLength) {
+        line.resize(kMaxLineLength);
+    }
+    return terminated ? LineRead::Line : LineRead::LastLine;
+}
+
+std::string Format(const char* format, ...) {
+    va_list args;
+    va_start(args, format);
+    va_list copy;
+    va_copy(copy, args);
+    const int length = std::vsnprintf(nullptr, 0, format, copy);
+    va_end(copy);
+    std::string text(length > 0 ? static_cast<std::size_t>(length) : 0, '\0');
+    if (length > 0) {
+        std::vsnprintf(text.data(), text.size() + 1, format, args);
+    }
+    va_end(args);
+    return text;
+}
+
+std::string FormatNumber(double value) {
+    if (!std::isfinite(value)) {
+        return "0";
+    }
+    char buffer[32];
+    std::snprintf(buffer, sizeof buffer, "%.5e", value);  // d.ddddde±xx, rounded as %g rounds
+    const char* e = std::strchr(buffer, 'e');
+    const int exponent = std::atoi(e + 1);
+    if (exponent >= -4 && exponent < 6) {
+        return Format("%g", value);
+    }
+    std::string digits;
+    for (const char* p = buffer; p < e; ++p) {
+        if (*p >= '0' && *p <= '9') {
+            digits += *p;
+        }
+    }
+    while (digits.size() > 1 && digits.back() == '0') {
+        digits.pop_back();
+    }
+    std::string text = value < 0 ? "-" : "";
+    if (exponent >= 6) {
+        text += digits;
+        text.append(static_cast<std::size_t>(exponent) + 1 - digits.size(), '0');
+    } else {
+        text += "0.";
+        text.append(static_cast<std::size_t>(-exponent - 1), '0');
+        text += digits;
+    }
+    return text;
+}

@@ -1,0 +1,202 @@
+#include "platform/TreeStore.h"
+
+#include <utility>
+
+namespace {
+CTreeEntry g_rootSentinel;
+CTreeEntry g_firstSentinel;
+CTreeEntry g_lastSentinel;
+}  // namespace
+
+const HTREEITEM TVI_ROOT = &g_rootSentinel;
+const HTREEITEM TVI_FIRST = &g_firstSentinel;
+const HTREEITEM TVI_LAST = &g_lastSentinel;
+
+CTreeStore::CTreeStore() : m_pRoot(std::make_unique<CTreeEntry>()) { m_pRoot->m_bExpanded = true; }
+
+CTreeStore::~CTreeStore() {
+    m_pObserver = nullptr;
+    DestroyChildren(*m_pRoot);
+}
+
+HTREEITEM CTreeStore::Resolve(HTREEITEM parent) const {
+    return (parent == TVI_ROOT || parent == nullptr) ? m_pRoot.get() : parent;
+}
+
+void CTreeStore::Renumber(CTreeEntry& parent, std::size_t from) {
+    for (std::size_t i = from; i < parent.m_children.size(); ++i) {
+        parent.m_children[i]->m_nRow = i;
+    }
+}
+
+HTREEITEM CTreeStore::InsertItem(std::string label, HTREEITEM parent, HTREEITEM insertAfter) {
+    if (parent == TVI_FIRST || parent == TVI_LAST) {
+        return nullptr;
+    }
+    CTreeEntry& owner = *Resolve(parent);
+    std::size_t row = owner.m_children.size();
+    if (insertAfter == TVI_FIRST) {
+        row = 0;
+    } else if (insertAfter != TVI_LAST && insertAfter != nullptr && insertAfter != TVI_ROOT &&
+               insertAfter->m_pParent == &owner) {
+        row = insertAfter->m_nRow + 1;
+    }
+    auto entry = std::make_unique<CTreeEntry>();
+    entry->m_strLabel = std::move(label);
+    entry->m_pParent = &owner;
+    entry->m_nRow = row;
+    HTREEITEM handle = entry.get();
+    if (m_pObserver) {
+        m_pObserver->BeforeInsert(&owner, row);
+    }
+    owner.m_children.insert(owner.m_children.begin() + static_cast<std::ptrdiff_t>(row),
+                            std::move(entry));
+    if (row + 1 < owner.m_children.size()) {
+        Renumber(owner, row + 1);
+    }
+    ++m_nCount;
+    if (m_pObserver) {
+        m_pObserver->AfterInsert(handle);
+    }
+    return handle;
+}
+
+void CTreeStore::SetItemText(HTREEITEM entry, std::string label) {
+    entry->m_strLabel = std::move(label);
+    if (m_pObserver) {
+        m_pObserver->LabelChanged(entry);
+    }
+}
+
+void CTreeStore::SetItemData(HTREEITEM entry, std::unique_ptr<CTreeItemData> data) {
+    entry->m_pData = std::move(data);
+}
+
+CTreeItemData* CTreeStore::GetItemData(HTREEITEM entry) const {
+    return entry ? entry->m_pData.get() : nullptr;
+}
+
+const std::string& CTreeStore::GetItemText(HTREEITEM entry) const { return entry->m_strLabel; }
+
+bool CTreeStore::ItemHasChildren(HTREEITEM entry) const {
+    return !Resolve(entry)->m_children.empty();
+}
+
+HTREEITEM CTreeStore::GetNextItem(HTREEITEM entry, TreeNext code) const {
+    switch (code) {
+        case TVGN_ROOT:
+            return m_pRoot->m_children.empty() ? nullptr : m_pRoot->m_children.front().get();
+        case TVGN_CARET:
+            return m_hCaret;
+        default:
+            break;
+    }
+    if (entry == nullptr) {
+        return nullptr;
+    }
+    if (code == TVGN_CHILD) {
+        const CTreeEntry& e = *Resolve(entry);
+        return e.m_children.empty() ? nullptr : e.m_children.front().get();
+    }
+    if (entry == TVI_ROOT) {
+        return nullptr;
+    }
+    const CTreeEntry& parent = *entry->m_pParent;
+    switch (code) {
+        case TVGN_NEXT:
+            return entry->m_nRow + 1 < parent.m_children.size()
+                       ? parent.m_children[entry->m_nRow + 1].get()
+                       : nullptr;
+        case TVGN_PREVIOUS:
+            return entry->m_nRow > 0 ? parent.m_children[entry->m_nRow - 1].get() : nullptr;
+        case TVGN_PARENT:
+            return entry->m_pParent == m_pRoot.get() ? nullptr : entry->m_pParent;
+        default:
+            return nullptr;
+    }
+}
+
+bool CTreeStore::SelectItem(HTREEITEM entry) {
+    if (entry == TVI_ROOT || entry == TVI_FIRST || entry == TVI_LAST) {
+        return false;
+    }
+    m_hCaret = entry;
+    if (m_pObserver) {
+        m_pObserver->CaretChanged(entry);
+    }
+    return true;
+}
+
+bool CTreeStore::IsInSubtree(HTREEITEM entry, HTREEITEM ancestor) const {
+    for (HTREEITEM e = entry; e != nullptr; e = e->m_pParent) {
+        if (e == ancestor) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// Destroys the children of entry bottom-up without recursion, so a deep tree cannot exhaust the
+// stack. Returns how many entries were destroyed.
+std::size_t CTreeStore::DestroyChildren(CTreeEntry& entry) {
+    std::size_t destroyed = 0;
+    std::vector<std::unique_ptr<CTreeEntry>> pending = std::move(entry.m_children);
+    entry.m_children.clear();
+    while (!pending.empty()) {
+        std::unique_ptr<CTreeEntry> e = std::move(pending.back());
+        pending.pop_back();
+        for (auto& child : e->m_children) {
+            pending.push_back(std::move(child));
+        }
+        ++destroyed;
+    }
+    return destroyed;
+}
+
+bool CTreeStore::DeleteItem(HTREEITEM entry) {
+    if (entry == nullptr || entry == TVI_FIRST || entry == TVI_LAST) {
+        return false;
+    }
+    if (entry == TVI_ROOT || entry == m_pRoot.get()) {
+        if (m_pObserver) {
+            m_pObserver->BeforeReset();
+        }
+        m_hCaret = nullptr;
+        DestroyChildren(*m_pRoot);
+        m_nCount = 0;
+        if (m_pObserver) {
+            m_pObserver->AfterReset();
+        }
+        return true;
+    }
+    if (m_hCaret && IsInSubtree(m_hCaret, entry)) {
+        SelectItem(nullptr);
+    }
+    if (m_pObserver) {
+        m_pObserver->BeforeRemove(entry);
+    }
+    CTreeEntry& parent = *entry->m_pParent;
+    const std::size_t row = entry->m_nRow;
+    std::unique_ptr<CTreeEntry> owned = std::move(parent.m_children[row]);
+    parent.m_children.erase(parent.m_children.begin() + static_cast<std::ptrdiff_t>(row));
+    Renumber(parent, row);
+    m_nCount -= DestroyChildren(*owned) + 1;
+    owned.reset();
+    if (m_pObserver) {
+        m_pObserver->AfterRemove();
+    }
+    return true;
+}
+
+bool CTreeStore::Expand(HTREEITEM entry, TreeExpand how) {
+    if (entry == nullptr || entry == TVI_FIRST || entry == TVI_LAST) {
+        return false;
+    }
+    CTreeEntry& e = *Resolve(entry);
+    const bool was = e.m_bExpanded;
+    e.m_bExpanded = how == TVE_TOGGLE ? !was : how == TVE_EXPAND;
+    if (m_pObserver && was != e.m_bExpanded) {
+        m_pObserver->ExpandChanged(&e);
+    }
+    return true;
+}

@@ -1,0 +1,121 @@
+// The tree store: the data behind the main window's tree control. It is the one copy of the
+// order of battle; the Qt face shows it through a model adapter and the headless face uses it
+// as it is. The operations keep the tree control's names so that the logic built on them reads
+// like the behaviour it implements.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+// Whatever an entry holds as its data. The entry owns it: deleting an entry destroys the data of
+// its whole subtree through this virtual destructor.
+class CTreeItemData {
+public:
+    virtual ~CTreeItemData() = default;
+};
+
+class CTreeEntry;
+using HTREEITEM = CTreeEntry*;
+
+// The tree control's special handles. They are addresses of private sentinels, never of entries.
+extern const HTREEITEM TVI_ROOT;
+extern const HTREEITEM TVI_FIRST;
+extern const HTREEITEM TVI_LAST;
+
+enum TreeNext { TVGN_ROOT, TVGN_NEXT, TVGN_PREVIOUS, TVGN_PARENT, TVGN_CHILD, TVGN_CARET };
+enum TreeExpand { TVE_COLLAPSE, TVE_EXPAND, TVE_TOGGLE };
+
+// Told about every change before and after it happens, so that a view never reads a
+// half-changed store (the Qt adapter maps these to its begin/end notifications).
+class CTreeObserver {
+public:
+    virtual ~CTreeObserver() = default;
+    virtual void BeforeInsert(HTREEITEM parent, std::size_t row) = 0;
+    virtual void AfterInsert(HTREEITEM entry) = 0;
+    virtual void BeforeRemove(HTREEITEM entry) = 0;
+    virtual void AfterRemove() = 0;
+    virtual void BeforeReset() = 0;
+    virtual void AfterReset() = 0;
+    virtual void LabelChanged(HTREEITEM entry) = 0;
+    virtual void CaretChanged(HTREEITEM entry) = 0;
+    virtual void ExpandChanged(HTREEITEM entry) = 0;
+};
+
+class CTreeEntry {
+public:
+    const std::string& Label() const { return m_strLabel; }
+    CTreeItemData* Data() const { return m_pData.get(); }
+    HTREEITEM Parent() const { return m_pParent; }
+    std::size_t Row() const { return m_nRow; }
+    std::size_t ChildCount() const { return m_children.size(); }
+    HTREEITEM Child(std::size_t row) const { return m_children[row].get(); }
+    bool Expanded() const { return m_bExpanded; }
+
+private:
+    friend class CTreeStore;
+    std::string m_strLabel;
+    std::unique_ptr<CTreeItemData> m_pData;
+    HTREEITEM m_pParent = nullptr;  // the store's hidden root for top-level entries
+    std::size_t m_nRow = 0;         // position among the parent's children
+    std::vector<std::unique_ptr<CTreeEntry>> m_children;
+    bool m_bExpanded = false;
+};
+
+class CTreeStore {
+public:
+    CTreeStore();
+    ~CTreeStore();
+    CTreeStore(const CTreeStore&) = delete;
+    CTreeStore& operator=(const CTreeStore&) = delete;
+
+    // A new entry under parent (TVI_ROOT for the top level) right after the sibling
+    // insertAfter, first with TVI_FIRST, last with TVI_LAST. An insertAfter that is not a
+    // child of parent puts the entry last, as the tree control does. Returns none when
+    // parent is not an entry of this store.
+    HTREEITEM InsertItem(std::string label, HTREEITEM parent = TVI_ROOT,
+                         HTREEITEM insertAfter = TVI_LAST);
+
+    void SetItemText(HTREEITEM entry, std::string label);
+    void SetItemData(HTREEITEM entry, std::unique_ptr<CTreeItemData> data);
+    CTreeItemData* GetItemData(HTREEITEM entry) const;
+    const std::string& GetItemText(HTREEITEM entry) const;
+    bool ItemHasChildren(HTREEITEM entry) const;
+
+    HTREEITEM GetNextItem(HTREEITEM entry, TreeNext code) const;
+    HTREEITEM GetRootItem() const { return GetNextItem(nullptr, TVGN_ROOT); }
+    HTREEITEM GetNextSiblingItem(HTREEITEM e) const { return GetNextItem(e, TVGN_NEXT); }
+    HTREEITEM GetPrevSiblingItem(HTREEITEM e) const { return GetNextItem(e, TVGN_PREVIOUS); }
+    HTREEITEM GetParentItem(HTREEITEM e) const { return GetNextItem(e, TVGN_PARENT); }
+    HTREEITEM GetChildItem(HTREEITEM e) const { return GetNextItem(e, TVGN_CHILD); }
+    HTREEITEM GetSelectedItem() const { return m_hCaret; }
+
+    // Makes entry the caret (none clears it).
+    bool SelectItem(HTREEITEM entry);
+
+    // Removes entry with its whole subtree and destroys their data; TVI_ROOT removes every
+    // entry. A caret inside the removed subtree becomes none.
+    bool DeleteItem(HTREEITEM entry);
+    bool DeleteAllItems() { return DeleteItem(TVI_ROOT); }
+
+    bool Expand(HTREEITEM entry, TreeExpand how);
+
+    std::size_t GetCount() const { return m_nCount; }
+    // The hidden root whose children are the top-level entries (for views).
+    HTREEITEM HiddenRoot() const { return m_pRoot.get(); }
+    // True when entry lies inside the subtree of ancestor (ancestor included).
+    bool IsInSubtree(HTREEITEM entry, HTREEITEM ancestor) const;
+
+    void SetObserver(CTreeObserver* observer) { m_pObserver = observer; }
+
+private:
+    HTREEITEM Resolve(HTREEITEM parent) const;
+    static void Renumber(CTreeEntry& parent, std::size_t from);
+    std::size_t DestroyChildren(CTreeEntry& entry);
+
+    std::unique_ptr<CTreeEntry> m_pRoot;
+    HTREEITEM m_hCaret = nullptr;
+    std::size_t m_nCount = 0;
+    CTreeObserver* m_pObserver = nullptr;
+};
