@@ -12,7 +12,7 @@
 namespace {
 
 class CHeaderLine {
-public:
+  public:
     explicit CHeaderLine(std::istream& in) {
         std::string line;
         ReadTextLine(in, line);
@@ -30,7 +30,7 @@ public:
         return value;
     }
 
-private:
+  private:
     CLineTokenizer m_tokenizer;
 };
 
@@ -55,7 +55,9 @@ void WriteSection(std::ostream& out, CDataList& list, const char* endTag) {
 
 }  // namespace
 
-CGameDatabase::CGameDatabase() : m_Kinds(KeywordOf), m_Types(TypeNameOf) { m_nType = TYPE_DATABASE; }
+CGameDatabase::CGameDatabase() : m_Kinds(KeywordOf), m_Types(TypeNameOf) {
+    m_nType = TYPE_DATABASE;
+}
 
 void CGameDatabase::ReadFrom(std::istream& in) {
     m_strName = CHeaderLine(in).Text();

@@ -21,11 +21,17 @@ std::string Text(CLineTokenizer& t) {
     return value;
 }
 
-void Field(std::ostream& out, const std::string& text) { out << text << '|'; }
+void Field(std::ostream& out, const std::string& text) {
+    out << text << '|';
+}
 
-void Field(std::ostream& out, double value) { out << FormatNumber(value) << '|'; }
+void Field(std::ostream& out, double value) {
+    out << FormatNumber(value) << '|';
+}
 
-void IntField(std::ostream& out, long value) { out << value << '|'; }
+void IntField(std::ostream& out, long value) {
+    out << value << '|';
+}
 
 }  // namespace
 

@@ -18,7 +18,7 @@ struct CDataListNode {
 };
 
 class CDataList {
-public:
+  public:
     // A list may keep an index by a text key of its records (a type's name, a weapon's name),
     // so that the first-match search by that key does not walk the list. The index is kept in
     // step by PushBack and PushFront; a record's key must not change while it is in the list.
@@ -44,13 +44,15 @@ public:
     void Clear();
 
     // The payload under the cursor, or none.
-    CDataObject* CurrentPayload() const { return m_pCursor ? m_pCursor->m_pPayload.get() : nullptr; }
+    CDataObject* CurrentPayload() const {
+        return m_pCursor ? m_pCursor->m_pPayload.get() : nullptr;
+    }
 
     // The first record whose key equals key, leaving the cursor on it (none when there is no
     // such record). Only for a list made with a key.
     CDataObject* FindByKey(const std::string& key);
 
-private:
+  private:
     int m_nCount = 0;
     CDataListNode* m_pHead = nullptr;
     CDataListNode* m_pTail = nullptr;

@@ -9,7 +9,7 @@
 namespace {
 
 class CPosixFileOps : public CFileOps {
-public:
+  public:
     int Open(const std::string& path, int flags, mode_t mode) override {
         return ::open(path.c_str(), flags | O_CLOEXEC, mode);
     }
@@ -30,6 +30,10 @@ CFileOps* g_pOps = &g_posix;
 
 }  // namespace
 
-CFileOps& FileOps() { return *g_pOps; }
+CFileOps& FileOps() {
+    return *g_pOps;
+}
 
-void SetFileOps(CFileOps* ops) { g_pOps = ops ? ops : &g_posix; }
+void SetFileOps(CFileOps* ops) {
+    g_pOps = ops ? ops : &g_posix;
+}

@@ -72,7 +72,9 @@ std::string TemporaryNameFor(const std::string& target) {
 
 }  // namespace
 
-const std::string& LastWriteError() { return g_lastError; }
+const std::string& LastWriteError() {
+    return g_lastError;
+}
 
 int ReplaceFile(const std::string& path, std::string_view bytes) {
     CFileOps& ops = FileOps();

@@ -11,13 +11,21 @@ void COobItem::ToText(std::string&) const {}
 
 void COobItem::ToHtml(std::string&, const CTreeStore&, HTREEITEM, int) const {}
 
-double COobItem::Cost() const { return 0.0; }
+double COobItem::Cost() const {
+    return 0.0;
+}
 
-double COobItem::Men() const { return 0.0; }
+double COobItem::Men() const {
+    return 0.0;
+}
 
-double COobItem::Aggregate(const CTreeStore&, HTREEITEM, int, int) const { return Cost(); }
+double COobItem::Aggregate(const CTreeStore&, HTREEITEM, int, int) const {
+    return Cost();
+}
 
-std::unique_ptr<COobItem> COobItem::Clone() const { return std::make_unique<COobItem>(*this); }
+std::unique_ptr<COobItem> COobItem::Clone() const {
+    return std::make_unique<COobItem>(*this);
+}
 
 CKindRecord* COobItem::FindKindByKeyword(const std::string& text) {
     if (!m_pDatabase) {

@@ -31,13 +31,12 @@ enum : int {
 enum : int { MEASURE_COST = 0, MEASURE_COUNT = 1, MEASURE_MEN = 2 };
 
 class COobItem : public CDataObject, public CTreeItemData {
-public:
+  public:
     COobItem() { m_nType = TYPE_ITEM; }
 
     virtual void Read(const std::string& line);
     virtual void ToText(std::string& out) const;
-    virtual void ToHtml(std::string& out, const CTreeStore& tree, HTREEITEM entry,
-                        int flags) const;
+    virtual void ToHtml(std::string& out, const CTreeStore& tree, HTREEITEM entry, int flags) const;
     virtual double Cost() const;
     virtual double Men() const;
     virtual double Aggregate(const CTreeStore& tree, HTREEITEM entry, int category,
@@ -61,7 +60,7 @@ public:
     CGameDatabase* m_pDatabase = nullptr;
     std::int16_t m_nSeen = 0;
 
-protected:
+  protected:
     // Sums measure over the items of category in the subtree of entry, the entry's own item
     // included; over the whole tree when entry is none.
     static double SumSubtree(const CTreeStore& tree, HTREEITEM entry, int category, int measure);

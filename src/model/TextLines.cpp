@@ -1,5 +1,6 @@
 #include "model/TextLines.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdarg>
 #include <cstdio>
@@ -67,4 +68,10 @@ std::string FormatNumber(double value) {
         text += digits;
     }
     return text;
+}
+
+void AppendNumber(std::string& out, long long value) {
+    char buffer[24];
+    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+    out.append(buffer, result.ptr);
 }

@@ -27,5 +27,8 @@ constexpr const char* kLineEnd = "\r\n";
 // are written out in full (1e-05 as 0.00001, 1.5e+06 as 1500000); NaN and infinities as 0.
 std::string FormatNumber(double value);
 
+// Appends a decimal integer, as "%d" writes it.
+void AppendNumber(std::string& out, long long value);
+
 // printf into a std::string.
 std::string Format(const char* format, ...) __attribute__((format(printf, 1, 2)));

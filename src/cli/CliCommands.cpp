@@ -1,0 +1,190 @@
+#include "cli/CliCommands.h"
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "cli/CliPrompts.h"
+#include "gamedata/GameDatabase.h"
+#include "gamedata/GameRecords.h"
+#include "model/FileWriter.h"
+#include "model/OobDocument.h"
+#include "model/OobItem.h"
+#include "model/Result.h"
+#include "model/TextLines.h"
+#include "model/TreeWalk.h"
+
+namespace {
+
+// A document that remembers the lines its reader passed over, with their line numbers.
+class CCheckedDocument : public COobDocument {
+  public:
+    std::int16_t ReadLine(std::istream& in, CTreeStore& tree, COobReaderState& state) override {
+        ++m_nLine;
+        return COobDocument::ReadLine(in, tree, state);
+    }
+    void LinePassedOver(const std::string& line) override {
+        m_passedOver.push_back("line " + std::to_string(m_nLine) + ": no item kind: " + line);
+    }
+
+    std::vector<std::string> m_passedOver;
+
+  private:
+    int m_nLine = 0;
+};
+
+// Everything one command works on: the database, its prompts, the document and the tree.
+struct CSession {
+    explicit CSession(const CCliOptions& options) : prompts(options.unknownClass) {
+        database.m_pPrompts = &prompts;
+        document.m_pDatabase = &database;
+    }
+
+    CCliPrompts prompts;
+    CGameDatabase database;
+    CCheckedDocument document;
+    CTreeStore tree;
+};
+
+int CannotOpen(std::ostream& err, const std::string& path) {
+    err << "harnwick-cli: cannot open " << path << '\n';
+    return EXIT_CANNOT_OPEN;
+}
+
+int Written(std::ostream& err, int result) {
+    if (result == RESULT_DONE) {
+        return EXIT_DONE;
+    }
+    err << "harnwick-cli: cannot write " << LastWriteError() << '\n';
+    return EXIT_CANNOT_WRITE;
+}
+
+int LoadTarget(CSession& session, const std::string& path, std::ostream& err) {
+    return session.database.Load(path) == RESULT_DONE ? EXIT_DONE : CannotOpen(err, path);
+}
+
+int LoadBoth(CSession& session, const CCliOptions& options, std::ostream& err) {
+    if (int status = LoadTarget(session, options.files[0], err)) {
+        return status;
+    }
+    if (session.document.LoadTree(options.files[1], session.tree) != RESULT_DONE) {
+        return CannotOpen(err, options.files[1]);
+    }
+    return EXIT_DONE;
+}
+
+// Position keys as the key report writes them: 2.1.3. is the third child of the first child of
+// the second top-level entry.
+class CKeyCounter {
+  public:
+    std::string Next(int depth) {
+        m_counters.resize(static_cast<std::size_t>(depth) + 1, 0);
+        ++m_counters.back();
+        std::string key;
+        for (int counter : m_counters) {
+            AppendNumber(key, counter);
+            key += '.';
+        }
+        return key;
+    }
+
+  private:
+    std::vector<int> m_counters;
+};
+
+const char* KindText(const COobItem& item) {
+    return item.m_pKind ? item.m_pKind->m_strName.c_str() : "";
+}
+
+// What an item lacks of the records its cost needs.
+std::string MissingRecords(const COobItem& item) {
+    std::string missing;
+    if (!item.m_pType) {
+        missing += " type";
+    }
+    if (!item.m_pBaseType) {
+        missing += " base-type";
+    }
+    const bool armed = item.m_nType == TYPE_UNIT || item.m_nType == TYPE_GUNBOAT;
+    if (armed && !item.m_pWeapon) {
+        missing += " weapon";
+    }
+    return missing;
+}
+
+int Tree(CSession& session, const CCliOptions& options, std::ostream& out, std::ostream& err) {
+    if (int status = LoadBoth(session, options, err)) {
+        return status;
+    }
+    CKeyCounter keys;
+    for (CTreeWalk walk(session.tree, nullptr); !walk.Done(); walk.Step()) {
+        const COobItem& item = *ItemOf(session.tree, walk.Current());
+        out << keys.Next(walk.Depth()) << '\t' << static_cast<unsigned>(item.m_nType) << '\t'
+            << KindText(item) << '\t' << item.m_strName << '\t' << Format("%g", item.Cost()) << '\t'
+            << Format("%g", item.Men()) << '\n';
+    }
+    return EXIT_DONE;
+}
+
+int Check(CSession& session, const CCliOptions& options, std::ostream& out, std::ostream& err) {
+    if (int status = LoadBoth(session, options, err)) {
+        return status;
+    }
+    std::vector<std::string> problems;
+    for (const std::string& warning : session.prompts.Warnings()) {
+        std::string line = warning;
+        for (char& c : line) {
+            c = c == '\n' ? ' ' : c;
+        }
+        problems.push_back(line);
+    }
+    problems.insert(problems.end(), session.document.m_passedOver.begin(),
+                    session.document.m_passedOver.end());
+    CKeyCounter keys;
+    for (CTreeWalk walk(session.tree, nullptr); !walk.Done(); walk.Step()) {
+        const COobItem& item = *ItemOf(session.tree, walk.Current());
+        const std::string key = keys.Next(walk.Depth());
+        const std::string missing = MissingRecords(item);
+        if (!missing.empty()) {
+            problems.push_back(key + " " + item.m_strName + ": missing record:" + missing);
+        }
+    }
+    for (const std::string& problem : problems) {
+        out << problem << '\n';
+    }
+    out << problems.size() << (problems.size() == 1 ? " problem" : " problems") << " found\n";
+    return problems.empty() ? EXIT_DONE : EXIT_PROBLEMS;
+}
+
+}  // namespace
+
+int RunCliCommand(const CCliOptions& options, std::ostream& out, std::ostream& err) {
+    CSession session(options);
+    const std::string& command = options.command;
+    if (command == "tree") {
+        return Tree(session, options, out, err);
+    }
+    if (command == "check") {
+        return Check(session, options, out, err);
+    }
+    if (int status = LoadTarget(session, options.files[0], err)) {
+        return status;
+    }
+    if (command == "new") {
+        return Written(err, session.document.CreateDefault(options.files[1]));
+    }
+    if (command == "target") {
+        return Written(err, session.database.Save(options.files[1]));
+    }
+    // save
+    if (session.document.LoadTree(options.files[1], session.tree) != RESULT_DONE) {
+        return CannotOpen(err, options.files[1]);
+    }
+    if (int status = Written(err, session.document.Save(options.files[2], session.tree))) {
+        return status;
+    }
+    if (!options.targetOut.empty()) {
+        return Written(err, session.database.Save(options.targetOut));
+    }
+    return EXIT_DONE;
+}

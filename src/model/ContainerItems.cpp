@@ -1,0 +1,28 @@
+#include "model/ContainerItems.h"
+
+#include "gamedata/GameRecords.h"
+#include "model/ItemLineReader.h"
+#include "model/SupplyItem.h"
+
+void CStructureItem::Read(const std::string& line) {
+    CItemLineReader reader(*this, line);
+    FindRecordsByKeyword(*this);
+    m_strName = reader.Rest();
+}
+
+void CStructureItem::ToText(std::string& out) const {
+    out.clear();
+    if (m_pKind) {
+        out += m_pKind->m_strKeyword;
+    }
+    out += m_strName;
+}
+
+double CStructureItem::Cost() const {
+    return CostByType(*this, 1);
+}
+
+double CStructureItem::Aggregate(const CTreeStore& tree, HTREEITEM entry, int category,
+                                 int measure) const {
+    return SumSubtree(tree, entry, category, measure);
+}

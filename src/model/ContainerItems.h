@@ -1,0 +1,30 @@
+// The containers: structures (command echelons) and armies (the top of a side). Only they are
+// followed by a nested block in the file.
+#pragma once
+
+#include "model/OobItem.h"
+
+class CStructureItem : public COobItem {
+  public:
+    CStructureItem() { m_nType = TYPE_STRUCTURE; }
+
+    void Read(const std::string& line) override;
+    void ToText(std::string& out) const override;
+    double Cost() const override;
+    double Aggregate(const CTreeStore& tree, HTREEITEM entry, int category,
+                     int measure) const override;
+    std::unique_ptr<COobItem> Clone() const override {
+        return std::make_unique<CStructureItem>(*this);
+    }
+};
+
+class CArmyItem : public CStructureItem {
+  public:
+    CArmyItem() { m_nType = TYPE_ARMY; }
+    std::unique_ptr<COobItem> Clone() const override { return std::make_unique<CArmyItem>(*this); }
+};
+
+// Armies and structures hold children.
+inline bool IsContainer(const COobItem& item) {
+    return item.m_nType == TYPE_STRUCTURE || item.m_nType == TYPE_ARMY;
+}

@@ -1,0 +1,23 @@
+// A gunboat: costed like a unit, with the weapon named in its line and the type named like its
+// kind keyword.
+#pragma once
+
+#include "model/OobItem.h"
+
+class CGunboatItem : public COobItem {
+  public:
+    CGunboatItem() { m_nType = TYPE_GUNBOAT; }
+
+    void Read(const std::string& line) override;
+    void ToText(std::string& out) const override;
+    double Cost() const override;
+    std::unique_ptr<COobItem> Clone() const override {
+        return std::make_unique<CGunboatItem>(*this);
+    }
+
+    double CostModifier() const;
+
+    std::int16_t m_nStrength = 0;
+    std::int16_t m_nQuality = 0;  // negative: fanatic
+    std::int16_t m_nPicture = 0;
+};

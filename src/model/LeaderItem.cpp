@@ -1,0 +1,47 @@
+#include "model/LeaderItem.h"
+
+#include <cstdlib>
+
+#include "gamedata/GameRecords.h"
+#include "model/ItemLineReader.h"
+
+void CLeaderItem::Read(const std::string& line) {
+    CItemLineReader reader(*this, line);
+    m_pType = FindType(reader.Word());
+    m_pBaseType = FindBaseType(m_pType);
+    m_nLeadership = reader.Number<std::int16_t>();
+    m_nThird = reader.Number<std::int16_t>();
+    m_strName = reader.Rest();
+    m_nLeaderNumber = 0;
+}
+
+void CLeaderItem::ToText(std::string& out) const {
+    out.clear();
+    if (m_pKind) {
+        out += m_pKind->m_strKeyword;
+    }
+    if (m_pType) {
+        out += m_pType->m_strType;
+    }
+    out += ' ';
+    AppendNumber(out, m_nLeadership);
+    out += ' ';
+    AppendNumber(out, m_nThird);
+    out += ' ';
+    out += m_strName;
+}
+
+double CLeaderItem::CostModifier() const {
+    if (!m_pBaseType || !m_pType) {
+        return 0.0;
+    }
+    const int aboveBase = std::abs(static_cast<int>(m_nLeadership)) - m_pBaseType->m_nBaseQuality;
+    return aboveBase * m_pBaseType->m_dQualityFactor + m_pType->m_dCostModifier + 1.0;
+}
+
+double CLeaderItem::Cost() const {
+    if (!m_pBaseType || !m_pType) {
+        return 0.0;
+    }
+    return CostModifier() * m_pBaseType->m_nMenPerPoint * m_pBaseType->m_dBaseCost;
+}

@@ -1,0 +1,247 @@
+#include "model/OobDocument.h"
+
+#include <fstream>
+#include <memory>
+#include <string_view>
+
+#include "gamedata/GameDatabase.h"
+#include "gamedata/GameRecords.h"
+#include "model/ContainerItems.h"
+#include "model/FileWriter.h"
+#include "model/ItemFactory.h"
+#include "model/LeaderItem.h"
+#include "model/LineTokenizer.h"
+#include "model/Result.h"
+#include "model/TextLines.h"
+#include "model/TreeWalk.h"
+
+namespace {
+
+// Walks the subtree of start (the whole tree when start is none) and gives every line of its
+// order-of-battle text, with the depth it is indented by: each item's line; "Begin" after a
+// container, and "End" at once when it has no children; one "End" per block closed when the
+// walk climbs. Blocks still open at the end of the tree get no "End": the reader closes them
+// at the end of the file. A subtree never closes blocks above its start.
+template <typename Emit>
+void WalkLines(const CTreeStore& tree, HTREEITEM start, Emit emit) {
+    const int offset = start ? -1 : 0;
+    std::string line;
+    for (CTreeWalk walk(tree, start); !walk.Done();) {
+        const int level = walk.Depth();
+        const COobItem* item = ItemOf(tree, walk.Current());
+        const bool container = item && IsContainer(*item);
+        const bool childless = !tree.ItemHasChildren(walk.Current());
+        if (item) {
+            item->ToText(line);
+            emit(level, line);
+        }
+        if (container) {
+            emit(level + 1, "Begin");
+            if (childless) {
+                emit(level + 1, "End");
+            }
+        }
+        const int result = walk.Step();
+        if (result < 0) {
+            for (int i = 0; i >= result + 1; --i) {
+                emit(level + i, "End");
+                if (level + i + offset - 1 < 0) {
+                    break;
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
+
+COobReaderState::COobReaderState(HTREEITEM parent, HTREEITEM after) : insertAfter(after) {
+    // Every slot starts as the caller's parent, so that an item at a level whose block was
+    // never opened by a container (a damaged file) still hangs on an entry that exists.
+    parents.fill(parent);
+}
+
+int COobDocument::WriteSubtree(std::string& out, const CTreeStore& tree, HTREEITEM start) {
+    WalkLines(tree, start, [&out](int depth, std::string_view text) {
+        out.append(static_cast<std::size_t>(depth < 0 ? 0 : depth), '\t');
+        out.append(text);
+        out.append(kLineEnd);
+    });
+    return RESULT_DONE;
+}
+
+int COobDocument::CopyToList(const CTreeStore& tree, HTREEITEM start, CLineStore& list) {
+    list.ResetContent();
+    WalkLines(tree, start,
+              [&list](int, std::string_view text) { list.AddString(std::string(text)); });
+    return RESULT_DONE;
+}
+
+std::string COobDocument::ToText(const CTreeStore& tree) {
+    std::string out;
+    AppendNumber(out, m_pDatabase ? m_pDatabase->m_nOobHeader : 0);
+    out += kLineEnd;
+    WriteSubtree(out, tree, nullptr);
+    return out;
+}
+
+int COobDocument::Save(const std::string& path, const CTreeStore& tree) {
+    const int result = ReplaceFile(path, ToText(tree));
+    if (result == RESULT_DONE) {
+        m_strName = path;
+    }
+    return result;
+}
+
+std::int16_t COobDocument::ReadLine(std::istream& in, CTreeStore& tree, COobReaderState& state) {
+    std::string line;
+    // A last line without a line break is not read.
+    if (ReadTextLine(in, line) != LineRead::Line) {
+        return READ_END;
+    }
+    CLineTokenizer tokenizer;
+    tokenizer.SetDelimiter(' ');
+    tokenizer.SetLine(line);
+    const std::string normalised = tokenizer.GetLine();
+    if (normalised == "</T>") {
+        return READ_TEMPLATE;
+    }
+    return ReadNormalised(normalised, tree, state);
+}
+
+std::int16_t COobDocument::ReadLineText(const std::string& text, CTreeStore& tree,
+                                        COobReaderState& state) {
+    if (text.empty()) {
+        return READ_END;
+    }
+    CLineTokenizer tokenizer;
+    tokenizer.SetDelimiter(' ');
+    tokenizer.SetLine(text);
+    return ReadNormalised(tokenizer.GetLine(), tree, state);
+}
+
+std::int16_t COobDocument::ReadNormalised(const std::string& line, CTreeStore& tree,
+                                          COobReaderState& state) {
+    if (line == "Begin") {
+        // Blocks nested deeper than the parents table are still counted, so that their "End"
+        // lines close them, but the level stops where a 16-bit count would wrap.
+        if (state.level < INT16_MAX) {
+            ++state.level;
+        }
+        return READ_BLOCK;
+    }
+    if (line == "End") {
+        // An "End" with no open block (more "End" than "Begin") closes nothing.
+        if (state.level > 1) {
+            --state.level;
+        }
+        return READ_BLOCK;
+    }
+    if (line.size() <= 2) {
+        return READ_OTHER;
+    }
+    // Items nested deeper than the parents table can hold are passed over.
+    if (state.level >= COobReaderState::kLevels) {
+        LinePassedOver(line);
+        return READ_OTHER;
+    }
+    COobItem probe;
+    probe.m_pDatabase = m_pDatabase;
+    const CKindRecord* kind = probe.FindKindForLine(line);
+    std::unique_ptr<COobItem> item = kind ? CreateItem(kind->TypeCode()) : nullptr;
+    if (!item) {
+        LinePassedOver(line);
+        return READ_OTHER;
+    }
+    item->m_pDatabase = m_pDatabase;
+    item->Read(line);
+    HTREEITEM entry =
+        tree.InsertItem(item->m_strName, state.parents[state.level - 1], state.insertAfter);
+    if (!entry) {
+        return READ_OTHER;
+    }
+    tree.SetItemData(entry, std::move(item));
+    state.parents[state.level] = entry;
+    state.insertAfter = TVI_LAST;
+    return READ_OTHER;
+}
+
+void COobDocument::LinePassedOver(const std::string&) {}
+
+int COobDocument::LoadTree(const std::string& path, CTreeStore& tree) {
+    m_strName = path;
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        return RESULT_CANNOT_OPEN;
+    }
+    COobReaderState state(TVI_ROOT, TVI_LAST);
+    while (ReadLine(in, tree, state) != READ_END) {
+    }
+    tree.SelectItem(tree.GetRootItem());
+    return RESULT_DONE;
+}
+
+int COobDocument::InsertTemplate(const std::string& path, CTreeStore& tree, HTREEITEM parent,
+                                 HTREEITEM insertAfter, int ordinal) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        return RESULT_CANNOT_OPEN;
+    }
+    std::string line;
+    for (int passed = 0; passed < ordinal;) {
+        const LineRead read = ReadTextLine(in, line);
+        if (read == LineRead::End) {
+            break;
+        }
+        if (line == "</T>") {
+            ++passed;
+        }
+    }
+    COobReaderState state(parent, insertAfter);
+    for (;;) {
+        const std::int16_t result = ReadLine(in, tree, state);
+        if (result == READ_END || result == READ_TEMPLATE) {
+            break;
+        }
+    }
+    return RESULT_DONE;
+}
+
+int COobDocument::PasteFromList(CTreeStore& tree, HTREEITEM parent, HTREEITEM insertAfter,
+                                const CLineStore& list) {
+    COobReaderState state(parent, insertAfter);
+    for (int i = 0; i < list.GetCount(); ++i) {
+        ReadLineText(list.GetText(i), tree, state);
+    }
+    return RESULT_DONE;
+}
+
+int COobDocument::CreateDefault(const std::string& path) {
+    std::string out;
+    AppendNumber(out, m_pDatabase ? m_pDatabase->m_nOobHeader : 0);
+    out += kLineEnd;
+    if (m_pDatabase) {
+        for (CDataListNode* n = m_pDatabase->m_Kinds.Head(); n; n = n->m_pNext) {
+            const auto& kind = static_cast<const CKindRecord&>(*n->m_pPayload);
+            if (kind.TypeCode() == TYPE_ARMY) {
+                out += kind.m_strKeyword + kind.m_strName + kLineEnd;
+                out += std::string("\tBegin") + kLineEnd;
+                out += "\tL 4 4 0 " + kind.m_strName + " Leader" + kLineEnd;
+                out += std::string("\tEnd") + kLineEnd;
+            } else if (kind.TypeCode() == TYPE_DEPOT) {
+                out += kind.m_strKeyword + "6 0 " + kind.m_strName + kLineEnd;
+            }
+        }
+    }
+    return ReplaceFile(path, out);
+}
+
+void COobDocument::NumberLeaders(const CTreeStore& tree) {
+    std::int32_t number = 0;
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        COobItem* item = ItemOf(tree, walk.Current());
+        if (item && item->m_nType == TYPE_LEADER) {
+            static_cast<CLeaderItem*>(item)->m_nLeaderNumber = number++;
+        }
+    }
+}

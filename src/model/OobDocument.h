@@ -1,0 +1,71 @@
+// Turns the order-of-battle tree into text and back: .oob files, template blocks, the copy
+// buffer and the skeleton of a new order of battle. The tree is the main window's; the document
+// holds no copy of it and is handed the tree on every call.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <iosfwd>
+#include <string>
+
+#include "model/DataObject.h"
+#include "platform/LineStore.h"
+#include "platform/TreeStore.h"
+
+class CGameDatabase;
+
+// Line reader results.
+enum : std::int16_t {
+    READ_END = 0,       // end of the input
+    READ_BLOCK = 1,     // a "Begin" or "End" line
+    READ_TEMPLATE = 2,  // a "</T>" line, the end of a template
+    READ_OTHER = -1,    // an item line, or a line passed over
+};
+
+// What the line reader keeps from one line to the next.
+struct COobReaderState {
+    static constexpr int kLevels = 10;  // the top level and eight nested blocks, plus the caller's
+
+    // parents[d] is the entry under which items of level d+1 go; parents[0] is the caller's.
+    std::array<HTREEITEM, kLevels> parents{};
+    HTREEITEM insertAfter = TVI_LAST;
+    std::int16_t level = 1;
+
+    COobReaderState(HTREEITEM parent, HTREEITEM after);
+};
+
+class COobDocument : public CDataObject {
+  public:
+    COobDocument() { m_nType = TYPE_DOCUMENT; }
+
+    // Writes the header number and the whole tree; RESULT_DONE or RESULT_CANNOT_WRITE.
+    virtual int Save(const std::string& path, const CTreeStore& tree);
+    // Appends the lines of the subtree of start (the whole tree when start is none).
+    virtual int WriteSubtree(std::string& out, const CTreeStore& tree, HTREEITEM start);
+    virtual int CopyToList(const CTreeStore& tree, HTREEITEM start, CLineStore& list);
+    // RESULT_DONE, or RESULT_CANNOT_OPEN with the tree unchanged.
+    virtual int LoadTree(const std::string& path, CTreeStore& tree);
+    virtual int InsertTemplate(const std::string& path, CTreeStore& tree, HTREEITEM parent,
+                               HTREEITEM insertAfter, int ordinal);
+    virtual int PasteFromList(CTreeStore& tree, HTREEITEM parent, HTREEITEM insertAfter,
+                              const CLineStore& list);
+    // Writes the skeleton of a new order of battle; RESULT_DONE or RESULT_CANNOT_WRITE.
+    virtual int CreateDefault(const std::string& path);
+    virtual std::int16_t ReadLine(std::istream& in, CTreeStore& tree, COobReaderState& state);
+    virtual std::int16_t ReadLineText(const std::string& text, CTreeStore& tree,
+                                      COobReaderState& state);
+    virtual void NumberLeaders(const CTreeStore& tree);
+
+    // The bytes Save writes.
+    std::string ToText(const CTreeStore& tree);
+
+    // Told of every line of three characters or more that the reader passes over: no kind's
+    // keyword begins it, its kind names no item class, or it is nested deeper than the parents
+    // table. The editor passes over them silently; the batch tool's check lists them.
+    virtual void LinePassedOver(const std::string& line);
+
+    CGameDatabase* m_pDatabase = nullptr;
+
+  private:
+    std::int16_t ReadNormalised(const std::string& line, CTreeStore& tree, COobReaderState& state);
+};

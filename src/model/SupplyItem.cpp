@@ -1,0 +1,77 @@
+#include "model/SupplyItem.h"
+
+#include "gamedata/GameRecords.h"
+#include "model/ItemLineReader.h"
+
+void FindRecordsByKeyword(COobItem& item) {
+    item.m_pType = item.m_pKind ? item.FindType(item.m_pKind->m_strKeyword) : nullptr;
+    item.m_pBaseType = item.FindBaseType(item.m_pType);
+}
+
+double CostByType(const COobItem& item, int count) {
+    if (!item.m_pType || !item.m_pBaseType) {
+        return 0.0;
+    }
+    return (item.m_pType->m_dCostModifier + 1.0) * item.m_pBaseType->m_nMenPerPoint * count *
+           item.m_pBaseType->m_dBaseCost;
+}
+
+namespace {
+
+void AppendLine(std::string& out, const COobItem& item, long long first, long long second) {
+    out.clear();
+    if (item.m_pKind) {
+        out += item.m_pKind->m_strKeyword;
+    }
+    AppendNumber(out, first);
+    out += ' ';
+    AppendNumber(out, second);
+    out += ' ';
+    out += item.m_strName;
+}
+
+double SupplyMen(const COobItem& item, std::int16_t supply) {
+    return item.m_pBaseType ? static_cast<double>(item.m_pBaseType->m_nMenPerPoint) * supply : 0.0;
+}
+
+}  // namespace
+
+void CSupplyItem::Read(const std::string& line) {
+    CItemLineReader reader(*this, line);
+    FindRecordsByKeyword(*this);
+    m_nSupply = reader.Number<std::int16_t>();
+    m_nPicture = reader.Number<std::int16_t>();
+    m_strName = reader.Rest();
+}
+
+void CSupplyItem::ToText(std::string& out) const {
+    AppendLine(out, *this, m_nSupply, m_nPicture);
+}
+
+double CSupplyItem::Cost() const {
+    return CostByType(*this, m_nSupply);
+}
+
+double CSupplyItem::Men() const {
+    return SupplyMen(*this, m_nSupply);
+}
+
+void CDepotItem::Read(const std::string& line) {
+    CItemLineReader reader(*this, line);
+    FindRecordsByKeyword(*this);
+    m_nSupply = reader.Number<std::int16_t>();
+    m_nNumber = reader.Number<std::int32_t>();
+    m_strName = reader.Rest();
+}
+
+void CDepotItem::ToText(std::string& out) const {
+    AppendLine(out, *this, m_nSupply, m_nNumber);
+}
+
+double CDepotItem::Cost() const {
+    return CostByType(*this, m_nSupply);
+}
+
+double CDepotItem::Men() const {
+    return SupplyMen(*this, m_nSupply);
+}

@@ -1,0 +1,130 @@
+#include "model/UnitItem.h"
+
+#include <cstdlib>
+
+#include "gamedata/GameDatabase.h"
+#include "gamedata/GameRecords.h"
+#include "model/ItemLineReader.h"
+#include "model/ReaderPrompts.h"
+#include "model/TextLines.h"
+
+void CUnitItem::Read(const std::string& line) {
+    CItemLineReader reader(*this, line);
+    m_nStrength = reader.Number<std::int16_t>();
+    m_nQuality = reader.Number<std::int16_t>();
+    const std::string typeName = reader.Word();
+    m_pType = FindType(typeName);
+    if (!m_pType) {
+        SettleUnknownType(typeName, reader.Line());
+    }
+    const std::string weaponName = reader.Word();
+    m_pWeapon = FindWeapon(weaponName, m_pType);
+    if (!m_pWeapon) {
+        SettleUnknownWeapon(weaponName, reader.Line());
+    }
+    m_pBaseType = FindBaseType(m_pType);
+    m_nPicture = reader.Number<std::int32_t>();
+    const bool hasReserved = m_pDatabase && m_pDatabase->m_nFormatVariant != 0;
+    m_nReserved = hasReserved ? reader.Number<std::int16_t>() : std::int16_t{0};
+    m_nIcon = reader.Number<std::int32_t>();
+    m_strName = reader.Rest();
+}
+
+// A type the game data lacks becomes a new type record at the head of the types, with the
+// class the user gives it, so that later lines of the same type find it and ask nothing.
+void CUnitItem::SettleUnknownType(const std::string& typeName, const std::string& line) {
+    if (!m_pDatabase) {
+        return;
+    }
+    CReaderPrompts* prompts = m_pDatabase->m_pPrompts;
+    int unitClass = 1;
+    if (prompts) {
+        prompts->Warning(
+            Format("Entry : %s\nUknown unit type : [%s]", line.c_str(), typeName.c_str()));
+        unitClass = prompts->AskUnitClass(line);
+        if (unitClass < 1 || unitClass > 3) {
+            unitClass = 1;
+        }
+    }
+    auto type = std::make_unique<CTypeRecord>();
+    type->m_nCode = static_cast<std::uint8_t>(unitClass);
+    type->m_strType = typeName;
+    type->m_dCostModifier = 0.0;
+    type->m_strName = "Unit type " + typeName;
+    m_pType = type.get();
+    m_pDatabase->m_Types.PushFront(std::move(type));
+}
+
+void CUnitItem::SettleUnknownWeapon(const std::string& weaponName, const std::string& line) {
+    if (!m_pType) {
+        return;
+    }
+    if (m_pDatabase && m_pDatabase->m_pPrompts) {
+        m_pDatabase->m_pPrompts->Warning(
+            Format("Entry : %s\nUknown weapon type : [%s] for unit type [%s]", line.c_str(),
+                   weaponName.c_str(), m_pType->m_strType.c_str()));
+    }
+    auto weapon = std::make_unique<CWeaponRecord>();
+    weapon->m_strWeapon = weaponName;
+    weapon->m_dCostModifier = 0.0;
+    weapon->m_strName = "Weapon type " + weaponName;
+    m_pWeapon = weapon.get();
+    m_pType->m_Weapons.PushFront(std::move(weapon));
+}
+
+void CUnitItem::ToText(std::string& out) const {
+    out.clear();
+    if (m_pKind) {
+        out += m_pKind->m_strKeyword;
+    }
+    AppendNumber(out, m_nStrength);
+    out += ' ';
+    AppendNumber(out, m_nQuality);
+    out += ' ';
+    if (m_pType) {
+        out += m_pType->m_strType;
+    }
+    out += ' ';
+    if (m_pWeapon) {
+        out += m_pWeapon->m_strWeapon;
+    }
+    out += ' ';
+    AppendNumber(out, m_nPicture);
+    out += ' ';
+    if (m_pDatabase && m_pDatabase->m_nFormatVariant != 0) {
+        AppendNumber(out, m_nReserved);
+        out += ' ';
+    }
+    AppendNumber(out, m_nIcon);
+    out += ' ';
+    out += m_strName;
+}
+
+double FightingCostModifier(const COobItem& item, std::int16_t quality) {
+    const CBaseTypeRecord* base = item.m_pBaseType;
+    if (!base || !item.m_pType || !item.m_pWeapon) {
+        return 0.0;
+    }
+    const int qualityAboveBase = std::abs(static_cast<int>(quality)) - base->m_nBaseQuality;
+    double modifier = qualityAboveBase * base->m_dQualityFactor + item.m_pWeapon->m_dCostModifier +
+                      item.m_pType->m_dCostModifier + 1.0;
+    if (quality < 0 && item.m_pDatabase) {
+        modifier += item.m_pDatabase->m_dFanaticBonus;
+    }
+    return modifier;
+}
+
+double CUnitItem::CostModifier() const {
+    return FightingCostModifier(*this, m_nQuality);
+}
+
+double CUnitItem::Cost() const {
+    if (!m_pBaseType) {
+        return 0.0;
+    }
+    return m_nStrength * m_pBaseType->m_nMenPerPoint * m_pBaseType->m_dBaseCost * CostModifier();
+}
+
+double CUnitItem::Men() const {
+    return m_pBaseType ? m_pBaseType->m_nMenPerPoint * m_nStrength : 0.0;
+}

@@ -1,0 +1,33 @@
+// An infantry, cavalry or artillery unit; its class is its base type's class code.
+#pragma once
+
+#include "model/OobItem.h"
+
+class CUnitItem : public COobItem {
+  public:
+    CUnitItem() { m_nType = TYPE_UNIT; }
+
+    void Read(const std::string& line) override;
+    void ToText(std::string& out) const override;
+    double Cost() const override;
+    double Men() const override;
+    std::unique_ptr<COobItem> Clone() const override { return std::make_unique<CUnitItem>(*this); }
+
+    // The bracketed factor of the cost, shown by the editor as the cost modifier; 0 when a
+    // record the cost needs is missing.
+    double CostModifier() const;
+
+    std::int16_t m_nStrength = 0;
+    std::int16_t m_nQuality = 0;  // a negative quality marks a fanatic unit
+    std::int32_t m_nPicture = 0;
+    std::int16_t m_nReserved = 0;
+    std::int32_t m_nIcon = 0;
+
+  private:
+    void SettleUnknownType(const std::string& typeName, const std::string& line);
+    void SettleUnknownWeapon(const std::string& weaponName, const std::string& line);
+};
+
+// The cost modifier of a unit or gunboat: quality above the base, weapon, type, and the
+// fanatic bonus for a negative quality. 0 when a record is missing.
+double FightingCostModifier(const COobItem& item, std::int16_t quality);
