@@ -9,7 +9,7 @@
 #include "model/DataObject.h"
 
 class CWorkspace : public CDataObject {
-  public:
+public:
     static constexpr int kPictures = 5;
     // The picture entries, in file order.
     enum Picture { UNIT_PICTURES, LEADER_FACES, INFANTRY_ICONS, CAVALRY_ICONS, ARTILLERY_ICONS };

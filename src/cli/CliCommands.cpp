@@ -18,7 +18,7 @@ namespace {
 
 // A document that remembers the lines its reader passed over, with their line numbers.
 class CCheckedDocument : public COobDocument {
-  public:
+public:
     std::int16_t ReadLine(std::istream& in, CTreeStore& tree, COobReaderState& state) override {
         ++m_nLine;
         return COobDocument::ReadLine(in, tree, state);
@@ -29,7 +29,7 @@ class CCheckedDocument : public COobDocument {
 
     std::vector<std::string> m_passedOver;
 
-  private:
+private:
     int m_nLine = 0;
 };
 
@@ -76,7 +76,7 @@ int LoadBoth(CSession& session, const CCliOptions& options, std::ostream& err) {
 // Position keys as the key report writes them: 2.1.3. is the third child of the first child of
 // the second top-level entry.
 class CKeyCounter {
-  public:
+public:
     std::string Next(int depth) {
         m_counters.resize(static_cast<std::size_t>(depth) + 1, 0);
         ++m_counters.back();
@@ -88,7 +88,7 @@ class CKeyCounter {
         return key;
     }
 
-  private:
+private:
     std::vector<int> m_counters;
 };
 

@@ -9,7 +9,7 @@
 #include "model/ReaderPrompts.h"
 
 class CCliPrompts : public CReaderPrompts {
-  public:
+public:
     explicit CCliPrompts(int unitClass) : m_nUnitClass(unitClass) {}
 
     void Warning(const std::string& text) override;
@@ -17,7 +17,7 @@ class CCliPrompts : public CReaderPrompts {
 
     const std::vector<std::string>& Warnings() const { return m_warnings; }
 
-  private:
+private:
     int m_nUnitClass;
     std::vector<std::string> m_warnings;
 };

@@ -12,7 +12,7 @@
 namespace {
 
 class CHeaderLine {
-  public:
+public:
     explicit CHeaderLine(std::istream& in) {
         std::string line;
         ReadTextLine(in, line);
@@ -30,7 +30,7 @@ class CHeaderLine {
         return value;
     }
 
-  private:
+private:
     CLineTokenizer m_tokenizer;
 };
 

@@ -13,7 +13,7 @@
 class CReaderPrompts;
 
 class CGameDatabase : public CDataObject {
-  public:
+public:
     static constexpr std::size_t kMaxCountries = 10;
 
     CGameDatabase();

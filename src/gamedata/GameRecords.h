@@ -15,7 +15,7 @@ class CLineTokenizer;
 // the status is the first number of the line, the type or class code, so a data line giving
 // 255 there ends its section as the end tag would.
 class CGameRecord : public CDataObject {
-  public:
+public:
     static constexpr std::uint8_t kNotRead = 254;
     static constexpr std::uint8_t kEndTag = 255;
 
@@ -27,17 +27,17 @@ class CGameRecord : public CDataObject {
 
     std::uint8_t m_nCode = kNotRead;
 
-  protected:
+protected:
     // Fills the fields from a line that is not the end tag; the tokenizer is at field 0.
     virtual void ReadFields(CLineTokenizer& tokenizer) = 0;
 
-  private:
+private:
     const char* m_pEndTag;
 };
 
 // An entry kind (section B): which item class the lines beginning with the keyword make.
 class CKindRecord : public CGameRecord {
-  public:
+public:
     CKindRecord() : CGameRecord("</B>") {}
     void WriteTo(std::ostream& out, std::uint8_t indent) override;
     std::uint8_t TypeCode() const { return m_nCode; }
@@ -45,13 +45,13 @@ class CKindRecord : public CGameRecord {
     std::uint8_t m_nLevel = 0;
     std::string m_strKeyword;
 
-  protected:
+protected:
     void ReadFields(CLineTokenizer& tokenizer) override;
 };
 
 // The cost parameters of a unit class (section C).
 class CBaseTypeRecord : public CGameRecord {
-  public:
+public:
     CBaseTypeRecord() : CGameRecord("</C>") {}
     void WriteTo(std::ostream& out, std::uint8_t indent) override;
     std::uint8_t ClassCode() const { return m_nCode; }
@@ -62,26 +62,26 @@ class CBaseTypeRecord : public CGameRecord {
     std::int16_t m_nMenPerPoint = 0;
     std::int16_t m_nMaxStrength = 0;
 
-  protected:
+protected:
     void ReadFields(CLineTokenizer& tokenizer) override;
 };
 
 // A weapon a type may carry; lives in its type's list.
 class CWeaponRecord : public CGameRecord {
-  public:
+public:
     CWeaponRecord() : CGameRecord("</W>") {}
     void WriteTo(std::ostream& out, std::uint8_t indent) override;
 
     std::string m_strWeapon;
     double m_dCostModifier = 0.0;
 
-  protected:
+protected:
     void ReadFields(CLineTokenizer& tokenizer) override;
 };
 
 // A unit type, leader command, supply or structure type (section D), with its weapons.
 class CTypeRecord : public CGameRecord {
-  public:
+public:
     CTypeRecord();
     void ReadFrom(std::istream& in) override;
     void WriteTo(std::ostream& out, std::uint8_t indent) override;
@@ -91,25 +91,25 @@ class CTypeRecord : public CGameRecord {
     double m_dCostModifier = 0.0;
     CDataList m_Weapons;
 
-  protected:
+protected:
     void ReadFields(CLineTokenizer& tokenizer) override;
 };
 
 // A ready-made order of battle that New, Attached OOB can copy (section E).
 class CAttachedOobRecord : public CGameRecord {
-  public:
+public:
     CAttachedOobRecord() : CGameRecord("</E>") {}
     void WriteTo(std::ostream& out, std::uint8_t indent) override;
 
     std::string m_strFile;
 
-  protected:
+protected:
     void ReadFields(CLineTokenizer& tokenizer) override;
 };
 
 // One template of the template file (section F).
 class CTemplateRecord : public CGameRecord {
-  public:
+public:
     CTemplateRecord() : CGameRecord("</F>") {}
     void WriteTo(std::ostream& out, std::uint8_t indent) override;
     std::uint8_t TypeCode() const { return m_nCode; }
@@ -119,7 +119,7 @@ class CTemplateRecord : public CGameRecord {
     std::uint8_t m_nOrdinal = 0;  // position in the template file; not stored
     double m_dCost = 0.0;
 
-  protected:
+protected:
     void ReadFields(CLineTokenizer& tokenizer) override;
 };
 

@@ -5,7 +5,7 @@
 #include "model/OobItem.h"
 
 class CStructureItem : public COobItem {
-  public:
+public:
     CStructureItem() { m_nType = TYPE_STRUCTURE; }
 
     void Read(const std::string& line) override;
@@ -19,7 +19,7 @@ class CStructureItem : public COobItem {
 };
 
 class CArmyItem : public CStructureItem {
-  public:
+public:
     CArmyItem() { m_nType = TYPE_ARMY; }
     std::unique_ptr<COobItem> Clone() const override { return std::make_unique<CArmyItem>(*this); }
 };

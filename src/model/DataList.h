@@ -18,7 +18,7 @@ struct CDataListNode {
 };
 
 class CDataList {
-  public:
+public:
     // A list may keep an index by a text key of its records (a type's name, a weapon's name),
     // so that the first-match search by that key does not walk the list. The index is kept in
     // step by PushBack and PushFront; a record's key must not change while it is in the list.
@@ -52,7 +52,7 @@ class CDataList {
     // such record). Only for a list made with a key.
     CDataObject* FindByKey(const std::string& key);
 
-  private:
+private:
     int m_nCount = 0;
     CDataListNode* m_pHead = nullptr;
     CDataListNode* m_pTail = nullptr;

@@ -23,7 +23,7 @@ enum : std::uint8_t {
 };
 
 class CDataObject {
-  public:
+public:
     CDataObject() = default;
     CDataObject(const CDataObject&) = default;
     CDataObject& operator=(const CDataObject&) = default;

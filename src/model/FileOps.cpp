@@ -9,7 +9,7 @@
 namespace {
 
 class CPosixFileOps : public CFileOps {
-  public:
+public:
     int Open(const std::string& path, int flags, mode_t mode) override {
         return ::open(path.c_str(), flags | O_CLOEXEC, mode);
     }

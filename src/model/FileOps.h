@@ -8,7 +8,7 @@
 #include <string>
 
 class CFileOps {
-  public:
+public:
     virtual ~CFileOps() = default;
     // Each returns what the POSIX call of the same name returns and leaves errno set on failure.
     virtual int Open(const std::string& path, int flags, mode_t mode) = 0;

@@ -5,7 +5,7 @@
 #include "model/OobItem.h"
 
 class CGunboatItem : public COobItem {
-  public:
+public:
     CGunboatItem() { m_nType = TYPE_GUNBOAT; }
 
     void Read(const std::string& line) override;

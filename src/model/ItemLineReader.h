@@ -11,7 +11,7 @@
 class COobItem;
 
 class CItemLineReader {
-  public:
+public:
     // Sets item's kind from line (none when no keyword matches).
     CItemLineReader(COobItem& item, const std::string& line);
 
@@ -28,6 +28,6 @@ class CItemLineReader {
     // The normalised line, as the warnings quote it.
     std::string Line() const { return m_tokenizer.GetLine(); }
 
-  private:
+private:
     CLineTokenizer m_tokenizer;
 };

@@ -4,7 +4,7 @@
 #include "model/OobItem.h"
 
 class CLeaderItem : public COobItem {
-  public:
+public:
     CLeaderItem() { m_nType = TYPE_LEADER; }
 
     void Read(const std::string& line) override;

@@ -6,7 +6,7 @@
 #include <string>
 
 class CLineTokenizer {
-  public:
+public:
     // The longest line the tokenizer holds; longer text is cut.
     static constexpr std::size_t kMaxLine = 255;
 
@@ -30,7 +30,7 @@ class CLineTokenizer {
 
     const std::string& Token() const { return m_strToken; }
 
-  private:
+private:
     bool AtEnd() const { return m_nCursor >= m_strLine.size(); }
 
     std::string m_strLine;

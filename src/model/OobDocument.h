@@ -35,7 +35,7 @@ struct COobReaderState {
 };
 
 class COobDocument : public CDataObject {
-  public:
+public:
     COobDocument() { m_nType = TYPE_DOCUMENT; }
 
     // Writes the header number and the whole tree; RESULT_DONE or RESULT_CANNOT_WRITE.
@@ -66,6 +66,6 @@ class COobDocument : public CDataObject {
 
     CGameDatabase* m_pDatabase = nullptr;
 
-  private:
+private:
     std::int16_t ReadNormalised(const std::string& line, CTreeStore& tree, COobReaderState& state);
 };

@@ -31,7 +31,7 @@ enum : int {
 enum : int { MEASURE_COST = 0, MEASURE_COUNT = 1, MEASURE_MEN = 2 };
 
 class COobItem : public CDataObject, public CTreeItemData {
-  public:
+public:
     COobItem() { m_nType = TYPE_ITEM; }
 
     virtual void Read(const std::string& line);
@@ -60,7 +60,7 @@ class COobItem : public CDataObject, public CTreeItemData {
     CGameDatabase* m_pDatabase = nullptr;
     std::int16_t m_nSeen = 0;
 
-  protected:
+protected:
     // Sums measure over the items of category in the subtree of entry, the entry's own item
     // included; over the whole tree when entry is none.
     static double SumSubtree(const CTreeStore& tree, HTREEITEM entry, int category, int measure);

@@ -5,7 +5,7 @@
 #include <string>
 
 class CReaderPrompts {
-  public:
+public:
     virtual ~CReaderPrompts() = default;
     // A "Warning!" message with the exclamation icon and an OK button.
     virtual void Warning(const std::string& text) = 0;

@@ -4,7 +4,7 @@
 #include "model/OobItem.h"
 
 class CSupplyItem : public COobItem {
-  public:
+public:
     CSupplyItem() { m_nType = TYPE_SUPPLY; }
 
     void Read(const std::string& line) override;
@@ -20,7 +20,7 @@ class CSupplyItem : public COobItem {
 };
 
 class CDepotItem : public COobItem {
-  public:
+public:
     CDepotItem() { m_nType = TYPE_DEPOT; }
 
     void Read(const std::string& line) override;

@@ -16,7 +16,7 @@ int TreeStepOver(const CTreeStore& tree, HTREEITEM& current);
 // A walk over the subtree of a start entry (start included), or over the whole tree when start
 // is none. Depth() is the running level: 0 for the start entry, or for top-level entries.
 class CTreeWalk {
-  public:
+public:
     CTreeWalk(const CTreeStore& tree, HTREEITEM start);
 
     bool Done() const { return m_bDone; }
@@ -26,7 +26,7 @@ class CTreeWalk {
     int Step() { return Advance(TreeStep(m_tree, m_hCurrent)); }
     int StepOver() { return Advance(TreeStepOver(m_tree, m_hCurrent)); }
 
-  private:
+private:
     int Advance(int result);
 
     const CTreeStore& m_tree;

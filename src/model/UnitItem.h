@@ -4,7 +4,7 @@
 #include "model/OobItem.h"
 
 class CUnitItem : public COobItem {
-  public:
+public:
     CUnitItem() { m_nType = TYPE_UNIT; }
 
     void Read(const std::string& line) override;
@@ -23,7 +23,7 @@ class CUnitItem : public COobItem {
     std::int16_t m_nReserved = 0;
     std::int32_t m_nIcon = 0;
 
-  private:
+private:
     void SettleUnknownType(const std::string& typeName, const std::string& line);
     void SettleUnknownWeapon(const std::string& weaponName, const std::string& line);
 };

@@ -12,7 +12,9 @@ const HTREEITEM TVI_ROOT = &g_rootSentinel;
 const HTREEITEM TVI_FIRST = &g_firstSentinel;
 const HTREEITEM TVI_LAST = &g_lastSentinel;
 
-CTreeStore::CTreeStore() : m_pRoot(std::make_unique<CTreeEntry>()) { m_pRoot->m_bExpanded = true; }
+CTreeStore::CTreeStore() : m_pRoot(std::make_unique<CTreeEntry>()) {
+    m_pRoot->m_bExpanded = true;
+}
 
 CTreeStore::~CTreeStore() {
     m_pObserver = nullptr;
@@ -76,7 +78,9 @@ CTreeItemData* CTreeStore::GetItemData(HTREEITEM entry) const {
     return entry ? entry->m_pData.get() : nullptr;
 }
 
-const std::string& CTreeStore::GetItemText(HTREEITEM entry) const { return entry->m_strLabel; }
+const std::string& CTreeStore::GetItemText(HTREEITEM entry) const {
+    return entry->m_strLabel;
+}
 
 bool CTreeStore::ItemHasChildren(HTREEITEM entry) const {
     return !Resolve(entry)->m_children.empty();
