@@ -1,0 +1,14 @@
+// Deterministic, realistic inputs for the benchmarks: a target file with several hundred unit
+// types and orders of battle of any size with deep command structures. The text is made here,
+// independently of the program's writers, in the format the game uses.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+// The target file's bytes.
+std::string MakeBenchTarget();
+
+// The bytes of an order of battle of about entries entries (exactly entries, or a few more to
+// finish the last brigade).
+std::string MakeBenchOob(std::size_t entries);
