@@ -120,7 +120,12 @@ int ReplaceFile(const std::string& path, std::string_view bytes) {
 
 int AppendToFile(const std::string& path, std::string_view bytes) {
     CFileOps& ops = FileOps();
-    const int fd = ops.Open(path, O_WRONLY | O_CREAT | O_APPEND, 0666);
+    // Links are followed first, so that taking an append back removes or truncates the file
+    // behind a link and never the link.
+    const std::string target = FollowLinks(path);
+    struct stat st;
+    const bool existed = ::stat(target.c_str(), &st) == 0;
+    const int fd = ops.Open(target, O_WRONLY | O_CREAT | O_APPEND, 0666);
     if (fd < 0) {
         return Fail(path, errno);
     }
@@ -131,15 +136,20 @@ int AppendToFile(const std::string& path, std::string_view bytes) {
         error = errno;
         ok = false;
     }
-    if (!ok && before >= 0) {
-        // Take back a partial append so the file ends where it did.
-        if (::ftruncate(fd, before) != 0) {
-            error = errno;
-        }
-    }
     if (ops.Close(fd) != 0 && ok) {
         error = errno;
         ok = false;
     }
-    return ok ? RESULT_DONE : Fail(path, error);
+    if (!ok) {
+        // Take the append back, so that a failure reported leaves the file as it was: its old
+        // end, or no file when the append made it. A failed close is taken back too, since the
+        // caller is told that nothing was appended.
+        if (!existed) {
+            ops.Unlink(target);
+        } else if (before >= 0 && ::truncate(target.c_str(), before) != 0) {
+            error = errno;
+        }
+        return Fail(path, error);
+    }
+    return RESULT_DONE;
 }

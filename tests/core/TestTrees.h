@@ -1,0 +1,58 @@
+// Small trees for the tree store and tree walk tests.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/TreeStore.h"
+
+// Builds a tree from labels in pre-order, each indented by one blank per level. Returns the
+// entries by label.
+inline std::map<std::string, HTREEITEM> BuildTree(CTreeStore& tree,
+                                                  std::initializer_list<std::string_view> lines) {
+    std::map<std::string, HTREEITEM> entries;
+    std::vector<HTREEITEM> parents{TVI_ROOT};
+    for (std::string_view line : lines) {
+        const std::size_t depth = line.find_first_not_of(' ');
+        parents.resize(depth + 1);
+        const std::string label(line.substr(depth));
+        HTREEITEM entry = tree.InsertItem(label, parents[depth], TVI_LAST);
+        parents.push_back(entry);
+        entries[label] = entry;
+    }
+    return entries;
+}
+
+// The children of parent as "A(B C) D", checking on the way that rows, siblings and parents
+// agree with the order of the children.
+inline std::string Shape(const CTreeStore& tree, HTREEITEM parent = TVI_ROOT) {
+    std::string out;
+    std::size_t row = 0;
+    HTREEITEM previous = nullptr;
+    for (HTREEITEM e = tree.GetChildItem(parent); e; previous = e, e = tree.GetNextSiblingItem(e)) {
+        EXPECT_EQ(e->Row(), row++) << e->Label();
+        EXPECT_EQ(tree.GetPrevSiblingItem(e), previous) << e->Label();
+        EXPECT_EQ(tree.GetParentItem(e), parent == TVI_ROOT ? nullptr : parent) << e->Label();
+        out += (out.empty() ? "" : " ") + tree.GetItemText(e);
+        if (tree.ItemHasChildren(e)) {
+            out += "(" + Shape(tree, e) + ")";
+        }
+    }
+    return out;
+}
+
+// A chain of depth entries, each the only child of the one before; returns its top.
+inline HTREEITEM BuildChain(CTreeStore& tree, int depth) {
+    HTREEITEM top = nullptr;
+    HTREEITEM parent = TVI_ROOT;
+    for (int i = 0; i < depth; ++i) {
+        parent = tree.InsertItem("L" + std::to_string(i), parent, TVI_LAST);
+        top = top ? top : parent;
+    }
+    return top;
+}

@@ -1,0 +1,87 @@
+#include "model/TextLines.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <sstream>
+#include <string>
+
+#include "model/LineTokenizer.h"
+
+namespace {
+
+// Every line of input as "L:text" (Line) or "Z:text" (LastLine), then "E" at the end.
+std::string ReadAllLines(const std::string& input) {
+    std::istringstream in(input);
+    std::string out;
+    std::string line;
+    for (int guard = 0; guard < 100; ++guard) {
+        const LineRead read = ReadTextLine(in, line);
+        if (read == LineRead::End) {
+            EXPECT_EQ(line, "");
+            return out + "E";
+        }
+        out += (read == LineRead::Line ? "L:" : "Z:") + line + " ";
+    }
+    return out + "no end";
+}
+
+TEST(TextLines, ReadsLinesEndedByCrLfOrLf) {
+    const std::string x254(254, 'x');
+    const std::pair<std::string, std::string> cases[] = {
+        {"", "E"},
+        {"a\r\nb\nc", "L:a L:b Z:c E"},
+        {"a\r\n", "L:a E"},
+        {"\n\r\n", "L: L: E"},
+        {"a\r\r\nb\r", "L:a\r Z:b E"},  // one carriage return before the line feed is dropped
+        {"a\rb\n", "L:a\rb E"},
+        {x254 + "\r\nnext", "L:" + x254 + " Z:next E"},
+        {x254 + "yz\r\nnext\n", "L:" + x254 + " L:next E"},  // the rest of a long line is dropped
+        {std::string(5000, 'y') + "\nnext", "L:" + std::string(254, 'y') + " Z:next E"},
+        {std::string("a\0b\n", 4), std::string("L:a\0b E", 7)},
+    };
+    for (const auto& [input, expected] : cases) {
+        EXPECT_EQ(ReadAllLines(input), expected) << input.substr(0, 20);
+    }
+}
+
+TEST(TextLines, FormatsNumbersAsGeneralFormWithoutExponent) {
+    const std::pair<double, const char*> cases[] = {
+        {0, "0"},
+        {1.5, "1.5"},
+        {0.25, "0.25"},
+        {2, "2"},
+        {100000, "100000"},
+        {-3.75, "-3.75"},
+        {0.123456789, "0.123457"},
+        {123456.7, "123457"},
+        {0.0001, "0.0001"},
+        {1e-05, "0.00001"},
+        {-0.00001234, "-0.00001234"},
+        {0.000012345678, "0.0000123457"},
+        {999999.5, "1000000"},
+        {1234567, "1234570"},
+        {-2.5e6, "-2500000"},
+        {1e20, "100000000000000000000"},
+        {std::numeric_limits<double>::infinity(), "0"},
+        {std::numeric_limits<double>::quiet_NaN(), "0"},
+    };
+    for (const auto& [value, text] : cases) {
+        EXPECT_EQ(FormatNumber(value), text) << value;
+    }
+}
+
+// What is written reads back as the value rounded to six significant digits.
+TEST(TextLines, FormattedNumbersReadBack) {
+    for (double value :
+         {1e-05, -0.00001234, 0.000987654321, 1234567.0, 1e20, -7.25e9, 0.5, 31.4159265}) {
+        CLineTokenizer t;
+        t.SetDelimiter('|');
+        t.SetLine(FormatNumber(value) + "|");
+        const double rounded = std::stod(Format("%.5e", value));
+        EXPECT_NEAR(t.ReadNumber(), rounded, std::abs(rounded) * 1e-12) << value;
+    }
+}
+
+}  // namespace
