@@ -102,7 +102,9 @@ HTREEITEM CTreeStore::GetNextItem(HTREEITEM entry, TreeNext code) const {
         const CTreeEntry& e = *Resolve(entry);
         return e.m_children.empty() ? nullptr : e.m_children.front().get();
     }
-    if (entry == TVI_ROOT) {
+    // The root, by its special handle or as the hidden entry views know it, has no siblings and
+    // no parent.
+    if (entry == TVI_ROOT || entry == m_pRoot.get()) {
         return nullptr;
     }
     const CTreeEntry& parent = *entry->m_pParent;
@@ -121,7 +123,7 @@ HTREEITEM CTreeStore::GetNextItem(HTREEITEM entry, TreeNext code) const {
 }
 
 bool CTreeStore::SelectItem(HTREEITEM entry) {
-    if (entry == TVI_ROOT || entry == TVI_FIRST || entry == TVI_LAST) {
+    if (entry == TVI_ROOT || entry == TVI_FIRST || entry == TVI_LAST || entry == m_pRoot.get()) {
         return false;
     }
     m_hCaret = entry;

@@ -67,7 +67,13 @@ TEST(TreeStore, NavigatesRootSiblingsParentChildAndCaret) {
         EXPECT_EQ(tree.GetNextItem(e[c.from], c.code), c.to ? e[c.to] : nullptr)
             << c.from << " " << c.code;
     }
-    EXPECT_EQ(tree.GetChildItem(TVI_ROOT), e["A"]);
+    for (HTREEITEM root : {TVI_ROOT, tree.HiddenRoot()}) {
+        EXPECT_EQ(tree.GetChildItem(root), e["A"]);
+        for (TreeNext code : {TVGN_NEXT, TVGN_PREVIOUS, TVGN_PARENT}) {
+            EXPECT_EQ(tree.GetNextItem(root, code), nullptr) << code;
+        }
+        EXPECT_FALSE(tree.SelectItem(root));
+    }
     EXPECT_EQ(tree.GetNextItem(nullptr, TVGN_NEXT), nullptr);
     EXPECT_EQ(tree.GetParentItem(nullptr), nullptr);
     EXPECT_TRUE(tree.ItemHasChildren(e["A"]));
