@@ -1,0 +1,150 @@
+// The sample workspace that ships with the program: every file of it reads without a single
+// question, every item finds the records its cost needs, and the program writes each file back
+// byte for byte as it stands on disk.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "app/Workspace.h"
+#include "gamedata/GameDatabase.h"
+#include "gamedata/GameRecords.h"
+#include "model/OobDocument.h"
+#include "model/OobItem.h"
+#include "model/ReaderPrompts.h"
+#include "model/Result.h"
+#include "model/TextLines.h"
+#include "model/TreeWalk.h"
+
+namespace {
+
+const std::string kSample = HW_SAMPLE_DIR "/";
+
+std::string FileBytes(const std::string& name) {
+    std::ifstream in(kSample + name, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    return bytes.str();
+}
+
+// Every line of an order-of-battle file but the header and the block lines makes an entry.
+std::size_t CountItemLines(const std::string& text) {
+    std::istringstream in(text);
+    std::string line;
+    std::getline(in, line);
+    std::size_t count = 0;
+    while (std::getline(in, line)) {
+        const std::size_t start = line.find_first_not_of('\t');
+        const std::string word = line.substr(start, line.find('\r') - start);
+        count += word != "Begin" && word != "End";
+    }
+    return count;
+}
+
+// The sample names only records its game data holds, so any question is a fault.
+class CNoQuestions : public CReaderPrompts {
+public:
+    void Warning(const std::string& text) override { ADD_FAILURE() << text; }
+    int AskUnitClass(const std::string& line) override {
+        ADD_FAILURE() << line;
+        return 1;
+    }
+};
+
+class SampleWorkspace : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_EQ(m_database.Load(kSample + "valdoria.inf"), RESULT_DONE);
+        m_database.m_pPrompts = &m_prompts;
+        m_document.m_pDatabase = &m_database;
+    }
+
+    CNoQuestions m_prompts;
+    CGameDatabase m_database;
+    COobDocument m_document;
+};
+
+TEST_F(SampleWorkspace, WorkspaceFileReadsAndWritesBack) {
+    CWorkspace workspace;
+    ASSERT_EQ(workspace.Load(kSample + "harnwick.txt"), RESULT_DONE);
+    EXPECT_EQ(workspace.m_strTitle, "Valdorian Campaign");
+    EXPECT_EQ(workspace.m_strOobFile, "valdoria.oob");
+    EXPECT_EQ(workspace.m_strBackupFile, "valdoria.bak");
+    EXPECT_EQ(workspace.m_strTargetFile, "valdoria.inf");
+    const char* pictures[] = {"units.bmp", "leaders.bmp", "icons3d2.bmp", "icons3d1.bmp",
+                              "icons3d0.bmp"};
+    for (int i = 0; i < CWorkspace::kPictures; ++i) {
+        EXPECT_EQ(workspace.m_nPictureFlags[i], 1);
+        EXPECT_EQ(workspace.m_strPicturePaths[i], pictures[i]);
+    }
+    EXPECT_EQ(workspace.ToText(), FileBytes("harnwick.txt"));
+}
+
+TEST_F(SampleWorkspace, TargetFileWritesBackByteForByte) {
+    EXPECT_EQ(m_database.m_nOobHeader, 3);
+    EXPECT_EQ(m_database.m_nFormatVariant, 1);
+    EXPECT_EQ(m_database.m_nCountryCount, 2);
+    EXPECT_EQ(m_database.m_AttachedOobs.Count(), 1);
+    EXPECT_EQ(m_database.m_Templates.Count(), 2);
+    EXPECT_EQ(m_database.ToText(), FileBytes("valdoria.inf"));
+}
+
+// The campaign and the attached order of battle: every line an entry with all its records,
+// nothing added to the game data, and the tree written back as the file stands.
+TEST_F(SampleWorkspace, OrdersOfBattleReadCompletelyAndWriteBack) {
+    const auto* attached =
+        static_cast<const CAttachedOobRecord*>(m_database.m_AttachedOobs.Head()->m_pPayload.get());
+    const int types = m_database.m_Types.Count();
+    for (const std::string& name : {std::string("valdoria.oob"), attached->m_strFile}) {
+        SCOPED_TRACE(name);
+        const std::string bytes = FileBytes(name);
+        CTreeStore tree;
+        ASSERT_EQ(m_document.LoadTree(kSample + name, tree), RESULT_DONE);
+        EXPECT_EQ(tree.GetCount(), CountItemLines(bytes));
+        int counts[TYPE_GUNBOAT + 1] = {};
+        for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+            const COobItem* item = ItemOf(tree, walk.Current());
+            ASSERT_NE(item, nullptr);
+            ++counts[item->m_nType];
+            const bool armed = item->m_nType == TYPE_UNIT || item->m_nType == TYPE_GUNBOAT;
+            EXPECT_TRUE(item->m_pKind && item->m_pType && item->m_pBaseType) << item->m_strName;
+            EXPECT_EQ(item->m_pWeapon != nullptr, armed) << item->m_strName;
+            EXPECT_GT(item->Cost(), 0.0) << item->m_strName;
+        }
+        EXPECT_EQ(counts[TYPE_ARMY], 2);
+        EXPECT_TRUE(counts[TYPE_LEADER] > 0 && counts[TYPE_UNIT] > 0);
+        if (name == "valdoria.oob") {
+            EXPECT_EQ(counts[TYPE_DEPOT], 1);
+            EXPECT_EQ(counts[TYPE_GUNBOAT], 1);
+        }
+        EXPECT_EQ(m_document.ToText(tree), bytes);
+    }
+    EXPECT_EQ(m_database.m_Types.Count(), types);
+}
+
+// Each template block is what its record says: kind, level and cost; ordinal 1 inserts the
+// second block alone.
+TEST_F(SampleWorkspace, TemplatesMatchTheirRecords) {
+    const std::string path = kSample + m_database.m_strTemplateFile;
+    for (CDataListNode* n = m_database.m_Templates.Head(); n; n = n->m_pNext) {
+        const auto& record = static_cast<const CTemplateRecord&>(*n->m_pPayload);
+        SCOPED_TRACE(record.m_strName);
+        CTreeStore tree;
+        ASSERT_EQ(m_document.InsertTemplate(path, tree, TVI_ROOT, TVI_LAST, record.m_nOrdinal),
+                  RESULT_DONE);
+        HTREEITEM top = tree.GetRootItem();
+        ASSERT_NE(top, nullptr);
+        EXPECT_EQ(tree.GetNextSiblingItem(top), nullptr);
+        const COobItem* item = ItemOf(tree, top);
+        EXPECT_EQ(item->m_pKind->TypeCode(), record.TypeCode());
+        EXPECT_EQ(item->m_pKind->m_nLevel, record.m_nLevel);
+        EXPECT_EQ(FormatNumber(item->Aggregate(tree, top, CATEGORY_ALL, MEASURE_COST)),
+                  FormatNumber(record.m_dCost));
+        if (record.m_nOrdinal == 1) {
+            EXPECT_EQ(tree.GetCount(), 1u);
+        }
+    }
+}
+
+}  // namespace
