@@ -19,18 +19,11 @@ namespace {
 // A document that remembers the lines its reader passed over, with their line numbers.
 class CCheckedDocument : public COobDocument {
 public:
-    std::int16_t ReadLine(std::istream& in, CTreeStore& tree, COobReaderState& state) override {
-        ++m_nLine;
-        return COobDocument::ReadLine(in, tree, state);
-    }
     void LinePassedOver(const std::string& line) override {
-        m_passedOver.push_back("line " + std::to_string(m_nLine) + ": no item kind: " + line);
+        m_passedOver.push_back("line " + std::to_string(LineNumber()) + ": no item kind: " + line);
     }
 
     std::vector<std::string> m_passedOver;
-
-private:
-    int m_nLine = 0;
 };
 
 // Everything one command works on: the database, its prompts, the document and the tree.

@@ -2,16 +2,15 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
+#include "model/TextLines.h"
 #include "model/SupplyItem.h"
 
-void CStructureItem::Read(const std::string& line) {
-    CItemLineReader reader(*this, line);
+void CStructureItem::ReadFields(CItemLineReader& reader) {
     FindRecordsByKeyword(*this);
     m_strName = reader.Rest();
 }
 
 void CStructureItem::ToText(std::string& out) const {
-    out.clear();
     if (m_pKind) {
         out += m_pKind->m_strKeyword;
     }

@@ -8,7 +8,7 @@ class CStructureItem : public COobItem {
 public:
     CStructureItem() { m_nType = TYPE_STRUCTURE; }
 
-    void Read(const std::string& line) override;
+    void ReadFields(CItemLineReader& reader) override;
     void ToText(std::string& out) const override;
     double Cost() const override;
     double Aggregate(const CTreeStore& tree, HTREEITEM entry, int category,

@@ -82,7 +82,7 @@ void CDataList::Clear() {
     Init();
 }
 
-CDataObject* CDataList::FindByKey(const std::string& key) {
+CDataObject* CDataList::FindByKey(std::string_view key) {
     auto it = m_index.find(key);
     m_pCursor = it == m_index.end() ? nullptr : it->second;
     return CurrentPayload();

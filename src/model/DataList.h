@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "model/DataObject.h"
@@ -50,7 +51,7 @@ public:
 
     // The first record whose key equals key, leaving the cursor on it (none when there is no
     // such record). Only for a list made with a key.
-    CDataObject* FindByKey(const std::string& key);
+    CDataObject* FindByKey(std::string_view key);
 
 private:
     int m_nCount = 0;
@@ -58,5 +59,11 @@ private:
     CDataListNode* m_pTail = nullptr;
     CDataListNode* m_pCursor = nullptr;
     KeyOf m_keyOf;
-    std::unordered_map<std::string, CDataListNode*> m_index;
+    struct KeyHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view key) const {
+            return std::hash<std::string_view>()(key);
+        }
+    };
+    std::unordered_map<std::string, CDataListNode*, KeyHash, std::equal_to<>> m_index;
 };

@@ -2,11 +2,11 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
+#include "model/TextLines.h"
 #include "model/SupplyItem.h"
 #include "model/UnitItem.h"
 
-void CGunboatItem::Read(const std::string& line) {
-    CItemLineReader reader(*this, line);
+void CGunboatItem::ReadFields(CItemLineReader& reader) {
     FindRecordsByKeyword(*this);
     m_nStrength = reader.Number<std::int16_t>();
     m_nQuality = reader.Number<std::int16_t>();
@@ -16,7 +16,6 @@ void CGunboatItem::Read(const std::string& line) {
 }
 
 void CGunboatItem::ToText(std::string& out) const {
-    out.clear();
     if (m_pKind) {
         out += m_pKind->m_strKeyword;
     }

@@ -8,7 +8,7 @@ class CGunboatItem : public COobItem {
 public:
     CGunboatItem() { m_nType = TYPE_GUNBOAT; }
 
-    void Read(const std::string& line) override;
+    void ReadFields(CItemLineReader& reader) override;
     void ToText(std::string& out) const override;
     double Cost() const override;
     std::unique_ptr<COobItem> Clone() const override {

@@ -1,19 +1,18 @@
-// The common start of every item kind's reader: the kind from the line's keyword, then the
-// fields from the first character after the keyword, one delimiter stepped after each field.
+// Reads an item's fields from its normalised line, from the first character after the kind's
+// keyword, stepping over one delimiter after each field.
 #pragma once
 
 #include <cstdint>
-#include <string>
+#include <string_view>
 
 #include "model/LineTokenizer.h"
-#include "model/TextLines.h"
 
-class COobItem;
+class CKindRecord;
 
 class CItemLineReader {
 public:
-    // Sets item's kind from line (none when no keyword matches).
-    CItemLineReader(COobItem& item, const std::string& line);
+    // tokenizer holds the normalised line; kind is the kind its keyword names (or none).
+    CItemLineReader(CLineTokenizer& tokenizer, const CKindRecord* kind);
 
     template <typename Int>
     Int Number() {
@@ -22,12 +21,16 @@ public:
         return StoreTruncated<Int>(value);
     }
     // One word: the name of a record.
-    std::string Word();
+    std::string_view Word() {
+        const std::string_view word = m_tokenizer.ReadField();
+        ++m_tokenizer.Position();
+        return word;
+    }
     // The rest of the line: the item's name, with its inner blanks.
-    std::string Rest() { return m_tokenizer.ReadRest(); }
+    std::string_view Rest() const { return m_tokenizer.RestView(); }
     // The normalised line, as the warnings quote it.
-    std::string Line() const { return m_tokenizer.GetLine(); }
+    std::string_view Line() const { return m_tokenizer.Line(); }
 
 private:
-    CLineTokenizer m_tokenizer;
+    CLineTokenizer& m_tokenizer;
 };

@@ -4,9 +4,9 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
+#include "model/TextLines.h"
 
-void CLeaderItem::Read(const std::string& line) {
-    CItemLineReader reader(*this, line);
+void CLeaderItem::ReadFields(CItemLineReader& reader) {
     m_pType = FindType(reader.Word());
     m_pBaseType = FindBaseType(m_pType);
     m_nLeadership = reader.Number<std::int16_t>();
@@ -16,7 +16,6 @@ void CLeaderItem::Read(const std::string& line) {
 }
 
 void CLeaderItem::ToText(std::string& out) const {
-    out.clear();
     if (m_pKind) {
         out += m_pKind->m_strKeyword;
     }

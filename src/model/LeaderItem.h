@@ -7,7 +7,7 @@ class CLeaderItem : public COobItem {
 public:
     CLeaderItem() { m_nType = TYPE_LEADER; }
 
-    void Read(const std::string& line) override;
+    void ReadFields(CItemLineReader& reader) override;
     void ToText(std::string& out) const override;
     double Cost() const override;
     double Men() const override { return 1.0; }

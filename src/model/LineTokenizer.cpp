@@ -1,9 +1,11 @@
 #include "model/LineTokenizer.h"
 
-#include <algorithm>
 #include <cmath>
 
 long long TruncateToInteger(double value) {
+    if (value > -2147483648.0 && value < 2147483648.0) {
+        return static_cast<long long>(value);  // the common case needs no reduction
+    }
     if (!std::isfinite(value)) {
         return 0;
     }
@@ -17,26 +19,29 @@ long long TruncateToInteger(double value) {
     return static_cast<long long>(low);
 }
 
-void CLineTokenizer::SetLine(const std::string& text) {
-    m_strLine = text.substr(0, kMaxLine);
+// Compacts the line in place, in one pass: separators (tabs and the delimiter) before the first
+// field and after the last are dropped, and every run of them between fields becomes one
+// delimiter.
+void CLineTokenizer::SetLine(std::string_view text) {
+    m_strLine.assign(text.substr(0, kMaxLine));
     m_nCursor = 0;
+    char* line = m_strLine.data();
+    const std::size_t length = m_strLine.size();
     std::size_t out = 0;
     bool inToken = false;
-    bool separatorWritten = false;
-    for (char c : m_strLine) {
+    for (std::size_t i = 0; i < length; ++i) {
+        const char c = line[i];
         if (c == '\t' || c == m_cDelimiter) {
             if (inToken) {
-                m_strLine[out++] = m_cDelimiter;
-                separatorWritten = true;
+                line[out++] = m_cDelimiter;
                 inToken = false;
             }
         } else {
-            m_strLine[out++] = c;
+            line[out++] = c;
             inToken = true;
-            separatorWritten = false;
         }
     }
-    if (separatorWritten) {
+    if (out > 0 && !inToken) {
         --out;
     }
     m_strLine.resize(out);
@@ -58,54 +63,47 @@ void CLineTokenizer::SeekField(int n) {
 }
 
 double CLineTokenizer::ReadNumber() {
-    m_strToken.clear();
     double sign = 1.0;
     double value = 0.0;
     bool fraction = false;
     int exponent = 0;
     if (!AtEnd() && m_strLine[m_nCursor] == '-') {
-        m_strToken += '-';
         sign = -1.0;
         ++m_nCursor;
     }
-    if (!AtEnd() && m_strLine[m_nCursor] != m_cDelimiter) {
-        do {
-            const char c = m_strLine[m_nCursor];
-            if (c >= '0' && c <= '9') {
-                const int d = c - '0';
-                if (fraction) {
-                    --exponent;
-                    value += d * std::pow(10.0, exponent);
-                } else {
-                    value = value * 10 + d;
-                }
-            } else if (c == '.') {
-                fraction = true;
+    // Every character up to the delimiter is taken: digits build the value, the first full stop
+    // starts the fraction, and anything else (a second full stop, a minus sign, a letter) is
+    // passed over.
+    while (!AtEnd() && m_strLine[m_nCursor] != m_cDelimiter) {
+        const char c = m_strLine[m_nCursor++];
+        if (c >= '0' && c <= '9') {
+            const int d = c - '0';
+            if (fraction) {
+                --exponent;
+                value += d * std::pow(10.0, exponent);
+            } else {
+                value = value * 10 + d;
             }
-            m_strToken += c;
-            ++m_nCursor;
-        } while (!AtEnd() && m_strLine[m_nCursor] != m_cDelimiter);
+        } else if (c == '.') {
+            fraction = true;
+        }
     }
     return sign * value;
 }
 
-std::string CLineTokenizer::ReadString() {
-    m_strToken.clear();
-    while (!AtEnd() && m_strLine[m_nCursor] != m_cDelimiter) {
-        m_strToken += m_strLine[m_nCursor++];
+std::string_view CLineTokenizer::ReadField() {
+    const std::size_t start = m_nCursor < m_strLine.size() ? m_nCursor : m_strLine.size();
+    std::size_t end = start;
+    while (end < m_strLine.size() && m_strLine[end] != m_cDelimiter) {
+        ++end;
     }
-    return m_strToken;
+    m_nCursor = end > m_nCursor ? end : m_nCursor;
+    return std::string_view(m_strLine).substr(start, end - start);
 }
 
-std::string CLineTokenizer::ReadRest() {
-    m_strToken.clear();
-    if (!AtEnd()) {
-        m_strToken.assign(m_strLine, m_nCursor, kMaxLine);
+std::string_view CLineTokenizer::RestView() const {
+    if (AtEnd()) {
+        return {};
     }
-    return m_strToken;
-}
-
-bool CLineTokenizer::MatchesPrefix(const std::string& text) const {
-    const std::size_t n = std::min(m_strLine.size(), text.size());
-    return m_strLine.compare(0, n, text, 0, n) == 0;
+    return std::string_view(m_strLine).substr(m_nCursor, kMaxLine);
 }

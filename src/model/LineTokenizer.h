@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 class CLineTokenizer {
 public:
@@ -14,8 +15,9 @@ public:
 
     // Must come before the first SetLine: the delimiter takes part in normalisation.
     void SetDelimiter(char delimiter) { m_cDelimiter = delimiter; }
-    void SetLine(const std::string& text);
+    void SetLine(std::string_view text);
     std::string GetLine() const { return m_strLine; }
+    std::string_view Line() const { return m_strLine; }
 
     // The cursor is wider than a line needs so that stepping past the end never wraps back
     // to the start of the line.
@@ -24,17 +26,26 @@ public:
     void SeekField(int n);
 
     double ReadNumber();
-    std::string ReadString();
-    std::string ReadRest();
-    bool MatchesPrefix(const std::string& text) const;
+    std::string ReadString() { return std::string(ReadField()); }
+    std::string ReadRest() { return std::string(RestView()); }
+    bool MatchesPrefix(std::string_view text) const { return PrefixMatches(m_strLine, text); }
 
-    const std::string& Token() const { return m_strToken; }
+    // ReadString and ReadRest without the copy: views into the line, valid until the next
+    // SetLine.
+    std::string_view ReadField();
+    std::string_view RestView() const;
+
+    // line and text agree over the length of the shorter of the two.
+    static bool PrefixMatches(std::string_view line, std::string_view text) {
+        const std::size_t n = line.size() < text.size() ? line.size() : text.size();
+        // The first characters decide most comparisons, without a call.
+        return n == 0 || (line[0] == text[0] && line.substr(0, n) == text.substr(0, n));
+    }
 
 private:
     bool AtEnd() const { return m_nCursor >= m_strLine.size(); }
 
     std::string m_strLine;
-    std::string m_strToken;
     std::size_t m_nCursor = 0;
     char m_cDelimiter = '\0';
 };

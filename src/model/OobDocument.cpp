@@ -9,6 +9,7 @@
 #include "model/ContainerItems.h"
 #include "model/FileWriter.h"
 #include "model/ItemFactory.h"
+#include "model/ItemLineReader.h"
 #include "model/LeaderItem.h"
 #include "model/LineTokenizer.h"
 #include "model/Result.h"
@@ -18,33 +19,32 @@
 namespace {
 
 // Walks the subtree of start (the whole tree when start is none) and gives every line of its
-// order-of-battle text, with the depth it is indented by: each item's line; "Begin" after a
+// order-of-battle text, with the depth it is indented by, as an item (whose ToText is the line)
+// or a text: each item's line; "Begin" after a
 // container, and "End" at once when it has no children; one "End" per block closed when the
 // walk climbs. Blocks still open at the end of the tree get no "End": the reader closes them
 // at the end of the file. A subtree never closes blocks above its start.
 template <typename Emit>
 void WalkLines(const CTreeStore& tree, HTREEITEM start, Emit emit) {
     const int offset = start ? -1 : 0;
-    std::string line;
     for (CTreeWalk walk(tree, start); !walk.Done();) {
         const int level = walk.Depth();
         const COobItem* item = ItemOf(tree, walk.Current());
         const bool container = item && IsContainer(*item);
         const bool childless = !tree.ItemHasChildren(walk.Current());
         if (item) {
-            item->ToText(line);
-            emit(level, line);
+            emit(level, item, {});
         }
         if (container) {
-            emit(level + 1, "Begin");
+            emit(level + 1, nullptr, "Begin");
             if (childless) {
-                emit(level + 1, "End");
+                emit(level + 1, nullptr, "End");
             }
         }
         const int result = walk.Step();
         if (result < 0) {
             for (int i = 0; i >= result + 1; --i) {
-                emit(level + i, "End");
+                emit(level + i, nullptr, "End");
                 if (level + i + offset - 1 < 0) {
                     break;
                 }
@@ -61,10 +61,19 @@ COobReaderState::COobReaderState(HTREEITEM parent, HTREEITEM after) : insertAfte
     parents.fill(parent);
 }
 
+COobDocument::COobDocument() {
+    m_nType = TYPE_DOCUMENT;
+    m_tokenizer.SetDelimiter(' ');
+}
+
 int COobDocument::WriteSubtree(std::string& out, const CTreeStore& tree, HTREEITEM start) {
-    WalkLines(tree, start, [&out](int depth, std::string_view text) {
+    WalkLines(tree, start, [&out](int depth, const COobItem* item, std::string_view text) {
         out.append(static_cast<std::size_t>(depth < 0 ? 0 : depth), '\t');
-        out.append(text);
+        if (item) {
+            item->ToText(out);
+        } else {
+            out.append(text);
+        }
         out.append(kLineEnd);
     });
     return RESULT_DONE;
@@ -72,8 +81,15 @@ int COobDocument::WriteSubtree(std::string& out, const CTreeStore& tree, HTREEIT
 
 int COobDocument::CopyToList(const CTreeStore& tree, HTREEITEM start, CLineStore& list) {
     list.ResetContent();
-    WalkLines(tree, start,
-              [&list](int, std::string_view text) { list.AddString(std::string(text)); });
+    WalkLines(tree, start, [&list](int, const COobItem* item, std::string_view text) {
+        std::string line;
+        if (item) {
+            item->ToText(line);
+        } else {
+            line = text;
+        }
+        list.AddString(std::move(line));
+    });
     return RESULT_DONE;
 }
 
@@ -99,14 +115,7 @@ std::int16_t COobDocument::ReadLine(std::istream& in, CTreeStore& tree, COobRead
     if (ReadTextLine(in, line) != LineRead::Line) {
         return READ_END;
     }
-    CLineTokenizer tokenizer;
-    tokenizer.SetDelimiter(' ');
-    tokenizer.SetLine(line);
-    const std::string normalised = tokenizer.GetLine();
-    if (normalised == "</T>") {
-        return READ_TEMPLATE;
-    }
-    return ReadNormalised(normalised, tree, state);
+    return ReadRawLine(line, tree, state, true);
 }
 
 std::int16_t COobDocument::ReadLineText(const std::string& text, CTreeStore& tree,
@@ -114,14 +123,21 @@ std::int16_t COobDocument::ReadLineText(const std::string& text, CTreeStore& tre
     if (text.empty()) {
         return READ_END;
     }
-    CLineTokenizer tokenizer;
-    tokenizer.SetDelimiter(' ');
-    tokenizer.SetLine(text);
-    return ReadNormalised(tokenizer.GetLine(), tree, state);
+    return ReadRawLine(text, tree, state, false);
 }
 
-std::int16_t COobDocument::ReadNormalised(const std::string& line, CTreeStore& tree,
-                                          COobReaderState& state) {
+std::int16_t COobDocument::ReadRawLine(std::string_view raw, CTreeStore& tree,
+                                       COobReaderState& state, bool templateEnds) {
+    ++m_nLineNumber;
+    m_tokenizer.SetLine(raw);
+    if (templateEnds && m_tokenizer.Line() == "</T>") {
+        return READ_TEMPLATE;
+    }
+    return ReadNormalisedLine(tree, state);
+}
+
+std::int16_t COobDocument::ReadNormalisedLine(CTreeStore& tree, COobReaderState& state) {
+    const std::string_view line = m_tokenizer.Line();
     if (line == "Begin") {
         // Blocks nested deeper than the parents table are still counted, so that their "End"
         // lines close them, but the level stops where a 16-bit count would wrap.
@@ -142,19 +158,19 @@ std::int16_t COobDocument::ReadNormalised(const std::string& line, CTreeStore& t
     }
     // Items nested deeper than the parents table can hold are passed over.
     if (state.level >= COobReaderState::kLevels) {
-        LinePassedOver(line);
+        LinePassedOver(std::string(line));
         return READ_OTHER;
     }
-    COobItem probe;
-    probe.m_pDatabase = m_pDatabase;
-    const CKindRecord* kind = probe.FindKindForLine(line);
+    CKindRecord* kind = FindKindInLine(m_pDatabase, line);
     std::unique_ptr<COobItem> item = kind ? CreateItem(kind->TypeCode()) : nullptr;
     if (!item) {
-        LinePassedOver(line);
+        LinePassedOver(std::string(line));
         return READ_OTHER;
     }
     item->m_pDatabase = m_pDatabase;
-    item->Read(line);
+    item->m_pKind = kind;
+    CItemLineReader reader(m_tokenizer, kind);
+    item->ReadFields(reader);
     HTREEITEM entry =
         tree.InsertItem(item->m_strName, state.parents[state.level - 1], state.insertAfter);
     if (!entry) {
@@ -170,12 +186,18 @@ void COobDocument::LinePassedOver(const std::string&) {}
 
 int COobDocument::LoadTree(const std::string& path, CTreeStore& tree) {
     m_strName = path;
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    std::string text;
+    if (!ReadWholeFile(path, text)) {
         return RESULT_CANNOT_OPEN;
     }
+    m_nLineNumber = 0;
     COobReaderState state(TVI_ROOT, TVI_LAST);
-    while (ReadLine(in, tree, state) != READ_END) {
+    // Lines are taken up to their line feed; the characters after the last line feed are not
+    // read, as a line-by-line reader would meet the end of the file there.
+    std::size_t start = 0;
+    for (std::size_t feed; (feed = text.find('\n', start)) != std::string::npos; start = feed + 1) {
+        ReadRawLine(TrimLine(std::string_view(text).substr(start, feed - start)), tree, state,
+                    true);
     }
     tree.SelectItem(tree.GetRootItem());
     return RESULT_DONE;
@@ -187,8 +209,9 @@ int COobDocument::InsertTemplate(const std::string& path, CTreeStore& tree, HTRE
     if (!in) {
         return RESULT_CANNOT_OPEN;
     }
+    m_nLineNumber = 0;
     std::string line;
-    for (int passed = 0; passed < ordinal;) {
+    for (int passed = 0; passed < ordinal; ++m_nLineNumber) {
         const LineRead read = ReadTextLine(in, line);
         if (read == LineRead::End) {
             break;

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "model/DataObject.h"
+#include "model/LineTokenizer.h"
 #include "platform/LineStore.h"
 #include "platform/TreeStore.h"
 
@@ -36,7 +37,7 @@ struct COobReaderState {
 
 class COobDocument : public CDataObject {
 public:
-    COobDocument() { m_nType = TYPE_DOCUMENT; }
+    COobDocument();
 
     // Writes the header number and the whole tree; RESULT_DONE or RESULT_CANNOT_WRITE.
     virtual int Save(const std::string& path, const CTreeStore& tree);
@@ -63,9 +64,18 @@ public:
     // keyword begins it, its kind names no item class, or it is nested deeper than the parents
     // table. The editor passes over them silently; the batch tool's check lists them.
     virtual void LinePassedOver(const std::string& line);
+    // The number, from 1, of the line the reader is on (counted from the start of the file for
+    // LoadTree and InsertTemplate).
+    int LineNumber() const { return m_nLineNumber; }
 
     CGameDatabase* m_pDatabase = nullptr;
 
 private:
-    std::int16_t ReadNormalised(const std::string& line, CTreeStore& tree, COobReaderState& state);
+    // One line as read from a file, without its line break.
+    std::int16_t ReadRawLine(std::string_view raw, CTreeStore& tree, COobReaderState& state,
+                             bool templateEnds);
+    std::int16_t ReadNormalisedLine(CTreeStore& tree, COobReaderState& state);
+
+    CLineTokenizer m_tokenizer;  // reused from line to line
+    int m_nLineNumber = 0;
 };

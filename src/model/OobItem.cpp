@@ -2,10 +2,20 @@
 
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
+#include "model/ItemLineReader.h"
 #include "model/LineTokenizer.h"
 #include "model/TreeWalk.h"
 
-void COobItem::Read(const std::string&) {}
+void COobItem::Read(const std::string& line) {
+    CLineTokenizer tokenizer;
+    tokenizer.SetDelimiter(' ');
+    tokenizer.SetLine(line);
+    m_pKind = FindKindForNormalisedLine(tokenizer.Line());
+    CItemLineReader reader(tokenizer, m_pKind);
+    ReadFields(reader);
+}
+
+void COobItem::ReadFields(CItemLineReader&) {}
 
 void COobItem::ToText(std::string&) const {}
 
@@ -27,7 +37,7 @@ std::unique_ptr<COobItem> COobItem::Clone() const {
     return std::make_unique<COobItem>(*this);
 }
 
-CKindRecord* COobItem::FindKindByKeyword(const std::string& text) {
+CKindRecord* COobItem::FindKindByKeyword(std::string_view text) {
     if (!m_pDatabase) {
         return nullptr;
     }
@@ -62,14 +72,14 @@ CBaseTypeRecord* COobItem::FindBaseType(const CTypeRecord* type) {
     return nullptr;
 }
 
-CTypeRecord* COobItem::FindType(const std::string& name) {
+CTypeRecord* COobItem::FindType(std::string_view name) {
     if (!m_pDatabase) {
         return nullptr;
     }
     return static_cast<CTypeRecord*>(m_pDatabase->m_Types.FindByKey(name));
 }
 
-CWeaponRecord* COobItem::FindWeapon(const std::string& name, CTypeRecord* type) {
+CWeaponRecord* COobItem::FindWeapon(std::string_view name, CTypeRecord* type) {
     if (!type) {
         return nullptr;
     }
@@ -77,16 +87,24 @@ CWeaponRecord* COobItem::FindWeapon(const std::string& name, CTypeRecord* type) 
 }
 
 CKindRecord* COobItem::FindKindForLine(const std::string& line) {
-    if (!m_pDatabase) {
-        return nullptr;
-    }
     CLineTokenizer tokenizer;
     tokenizer.SetDelimiter(' ');
     tokenizer.SetLine(line);
-    CDataList& kinds = m_pDatabase->m_Kinds;
+    return FindKindForNormalisedLine(tokenizer.Line());
+}
+
+CKindRecord* COobItem::FindKindForNormalisedLine(std::string_view line) {
+    return FindKindInLine(m_pDatabase, line);
+}
+
+CKindRecord* FindKindInLine(CGameDatabase* database, std::string_view line) {
+    if (!database) {
+        return nullptr;
+    }
+    CDataList& kinds = database->m_Kinds;
     for (kinds.Rewind(); kinds.Current(); kinds.Next()) {
         auto* kind = static_cast<CKindRecord*>(kinds.CurrentPayload());
-        if (tokenizer.MatchesPrefix(kind->m_strKeyword)) {
+        if (CLineTokenizer::PrefixMatches(line, kind->m_strKeyword)) {
             return kind;
         }
     }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "model/DataObject.h"
 #include "platform/TreeStore.h"
@@ -15,6 +16,7 @@ class CKindRecord;
 class CBaseTypeRecord;
 class CTypeRecord;
 class CWeaponRecord;
+class CItemLineReader;
 
 // ToHtml flags.
 enum : int { HTML_COSTS = 1, HTML_IMAGES = 2 };
@@ -34,21 +36,29 @@ class COobItem : public CDataObject, public CTreeItemData {
 public:
     COobItem() { m_nType = TYPE_ITEM; }
 
+    // Fills the item from its line. Each kind reads its own fields (ReadFields) after the
+    // common start: the kind found by the line's keyword, the fields read from just after it.
     virtual void Read(const std::string& line);
+    // Appends the item's line, without indentation or line end, to out.
     virtual void ToText(std::string& out) const;
     virtual void ToHtml(std::string& out, const CTreeStore& tree, HTREEITEM entry, int flags) const;
     virtual double Cost() const;
     virtual double Men() const;
     virtual double Aggregate(const CTreeStore& tree, HTREEITEM entry, int category,
                              int measure) const;
-    virtual CKindRecord* FindKindByKeyword(const std::string& text);
+    virtual CKindRecord* FindKindByKeyword(std::string_view text);
     virtual CKindRecord* FindKindByType(std::uint8_t code);
     virtual CBaseTypeRecord* FindBaseType(const CTypeRecord* type);
-    virtual CTypeRecord* FindType(const std::string& name);
-    virtual CWeaponRecord* FindWeapon(const std::string& name, CTypeRecord* type);
+    virtual CTypeRecord* FindType(std::string_view name);
+    virtual CWeaponRecord* FindWeapon(std::string_view name, CTypeRecord* type);
 
     // The first kind, in the database's order, whose keyword begins line.
     CKindRecord* FindKindForLine(const std::string& line);
+    // The same for a line the tokenizer has already normalised.
+    CKindRecord* FindKindForNormalisedLine(std::string_view line);
+
+    // The kind's own part of Read: its fields, in line order, from the reader.
+    virtual void ReadFields(CItemLineReader& reader);
 
     // A copy of the item with the same records (the editors work on one).
     virtual std::unique_ptr<COobItem> Clone() const;
@@ -65,6 +75,9 @@ protected:
     // included; over the whole tree when entry is none.
     static double SumSubtree(const CTreeStore& tree, HTREEITEM entry, int category, int measure);
 };
+
+// The first kind of database, in its order, whose keyword begins the normalised line.
+CKindRecord* FindKindInLine(CGameDatabase* database, std::string_view line);
 
 // The item an entry of the order-of-battle tree holds.
 inline COobItem* ItemOf(const CTreeStore& tree, HTREEITEM entry) {

@@ -2,6 +2,7 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
+#include "model/TextLines.h"
 
 void FindRecordsByKeyword(COobItem& item) {
     item.m_pType = item.m_pKind ? item.FindType(item.m_pKind->m_strKeyword) : nullptr;
@@ -19,7 +20,6 @@ double CostByType(const COobItem& item, int count) {
 namespace {
 
 void AppendLine(std::string& out, const COobItem& item, long long first, long long second) {
-    out.clear();
     if (item.m_pKind) {
         out += item.m_pKind->m_strKeyword;
     }
@@ -36,8 +36,7 @@ double SupplyMen(const COobItem& item, std::int16_t supply) {
 
 }  // namespace
 
-void CSupplyItem::Read(const std::string& line) {
-    CItemLineReader reader(*this, line);
+void CSupplyItem::ReadFields(CItemLineReader& reader) {
     FindRecordsByKeyword(*this);
     m_nSupply = reader.Number<std::int16_t>();
     m_nPicture = reader.Number<std::int16_t>();
@@ -56,8 +55,7 @@ double CSupplyItem::Men() const {
     return SupplyMen(*this, m_nSupply);
 }
 
-void CDepotItem::Read(const std::string& line) {
-    CItemLineReader reader(*this, line);
+void CDepotItem::ReadFields(CItemLineReader& reader) {
     FindRecordsByKeyword(*this);
     m_nSupply = reader.Number<std::int16_t>();
     m_nNumber = reader.Number<std::int32_t>();

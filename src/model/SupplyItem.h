@@ -7,7 +7,7 @@ class CSupplyItem : public COobItem {
 public:
     CSupplyItem() { m_nType = TYPE_SUPPLY; }
 
-    void Read(const std::string& line) override;
+    void ReadFields(CItemLineReader& reader) override;
     void ToText(std::string& out) const override;
     double Cost() const override;
     double Men() const override;
@@ -23,7 +23,7 @@ class CDepotItem : public COobItem {
 public:
     CDepotItem() { m_nType = TYPE_DEPOT; }
 
-    void Read(const std::string& line) override;
+    void ReadFields(CItemLineReader& reader) override;
     void ToText(std::string& out) const override;
     double Cost() const override;
     double Men() const override;

@@ -6,7 +6,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <istream>
+#include <sstream>
 
 LineRead ReadTextLine(std::istream& in, std::string& line) {
     if (!std::getline(in, line)) {
@@ -21,6 +23,24 @@ LineRead ReadTextLine(std::istream& in, std::string& line) {
         line.resize(kMaxLineLength);
     }
     return terminated ? LineRead::Line : LineRead::LastLine;
+}
+
+std::string_view TrimLine(std::string_view line) {
+    if (!line.empty() && line.back() == '\r') {
+        line.remove_suffix(1);
+    }
+    return line.substr(0, kMaxLineLength);
+}
+
+bool ReadWholeFile(const std::string& path, std::string& text) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        return false;
+    }
+    std::ostringstream buffer;
+    buffer << in.rdbuf();
+    text = std::move(buffer).str();
+    return true;
 }
 
 std::string Format(const char* format, ...) {

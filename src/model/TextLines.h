@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 
 // Every reader takes at most this many characters of a line.
 constexpr std::size_t kMaxLineLength = 254;
@@ -18,6 +19,13 @@ enum class LineRead {
 // A line longer than kMaxLineLength is cut there and the rest of it is dropped, so an over-long
 // line never spills into the next one.
 LineRead ReadTextLine(std::istream& in, std::string& line);
+
+// A line taken from a whole file's text, without its line feed, made what ReadTextLine gives:
+// one carriage return at its end dropped, cut at kMaxLineLength.
+std::string_view TrimLine(std::string_view line);
+
+// The whole file at path; false when it does not open.
+bool ReadWholeFile(const std::string& path, std::string& text);
 
 // Files are written with CR LF whatever the host.
 constexpr const char* kLineEnd = "\r\n";

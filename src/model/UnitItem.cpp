@@ -8,16 +8,15 @@
 #include "model/ReaderPrompts.h"
 #include "model/TextLines.h"
 
-void CUnitItem::Read(const std::string& line) {
-    CItemLineReader reader(*this, line);
+void CUnitItem::ReadFields(CItemLineReader& reader) {
     m_nStrength = reader.Number<std::int16_t>();
     m_nQuality = reader.Number<std::int16_t>();
-    const std::string typeName = reader.Word();
+    const std::string_view typeName = reader.Word();
     m_pType = FindType(typeName);
     if (!m_pType) {
         SettleUnknownType(typeName, reader.Line());
     }
-    const std::string weaponName = reader.Word();
+    const std::string_view weaponName = reader.Word();
     m_pWeapon = FindWeapon(weaponName, m_pType);
     if (!m_pWeapon) {
         SettleUnknownWeapon(weaponName, reader.Line());
@@ -32,48 +31,47 @@ void CUnitItem::Read(const std::string& line) {
 
 // A type the game data lacks becomes a new type record at the head of the types, with the
 // class the user gives it, so that later lines of the same type find it and ask nothing.
-void CUnitItem::SettleUnknownType(const std::string& typeName, const std::string& line) {
+void CUnitItem::SettleUnknownType(std::string_view typeName, std::string_view line) {
     if (!m_pDatabase) {
         return;
     }
     CReaderPrompts* prompts = m_pDatabase->m_pPrompts;
     int unitClass = 1;
     if (prompts) {
-        prompts->Warning(
-            Format("Entry : %s\nUknown unit type : [%s]", line.c_str(), typeName.c_str()));
-        unitClass = prompts->AskUnitClass(line);
+        prompts->Warning("Entry : " + std::string(line) + "\nUknown unit type : [" +
+                         std::string(typeName) + "]");
+        unitClass = prompts->AskUnitClass(std::string(line));
         if (unitClass < 1 || unitClass > 3) {
             unitClass = 1;
         }
     }
     auto type = std::make_unique<CTypeRecord>();
     type->m_nCode = static_cast<std::uint8_t>(unitClass);
-    type->m_strType = typeName;
+    type->m_strType = std::string(typeName);
     type->m_dCostModifier = 0.0;
-    type->m_strName = "Unit type " + typeName;
+    type->m_strName = "Unit type " + type->m_strType;
     m_pType = type.get();
     m_pDatabase->m_Types.PushFront(std::move(type));
 }
 
-void CUnitItem::SettleUnknownWeapon(const std::string& weaponName, const std::string& line) {
+void CUnitItem::SettleUnknownWeapon(std::string_view weaponName, std::string_view line) {
     if (!m_pType) {
         return;
     }
     if (m_pDatabase && m_pDatabase->m_pPrompts) {
-        m_pDatabase->m_pPrompts->Warning(
-            Format("Entry : %s\nUknown weapon type : [%s] for unit type [%s]", line.c_str(),
-                   weaponName.c_str(), m_pType->m_strType.c_str()));
+        m_pDatabase->m_pPrompts->Warning("Entry : " + std::string(line) +
+                                         "\nUknown weapon type : [" + std::string(weaponName) +
+                                         "] for unit type [" + m_pType->m_strType + "]");
     }
     auto weapon = std::make_unique<CWeaponRecord>();
-    weapon->m_strWeapon = weaponName;
+    weapon->m_strWeapon = std::string(weaponName);
     weapon->m_dCostModifier = 0.0;
-    weapon->m_strName = "Weapon type " + weaponName;
+    weapon->m_strName = "Weapon type " + weapon->m_strWeapon;
     m_pWeapon = weapon.get();
     m_pType->m_Weapons.PushFront(std::move(weapon));
 }
 
 void CUnitItem::ToText(std::string& out) const {
-    out.clear();
     if (m_pKind) {
         out += m_pKind->m_strKeyword;
     }

@@ -7,7 +7,7 @@ class CUnitItem : public COobItem {
 public:
     CUnitItem() { m_nType = TYPE_UNIT; }
 
-    void Read(const std::string& line) override;
+    void ReadFields(CItemLineReader& reader) override;
     void ToText(std::string& out) const override;
     double Cost() const override;
     double Men() const override;
@@ -24,8 +24,8 @@ public:
     std::int32_t m_nIcon = 0;
 
 private:
-    void SettleUnknownType(const std::string& typeName, const std::string& line);
-    void SettleUnknownWeapon(const std::string& weaponName, const std::string& line);
+    void SettleUnknownType(std::string_view typeName, std::string_view line);
+    void SettleUnknownWeapon(std::string_view weaponName, std::string_view line);
 };
 
 // The cost modifier of a unit or gunboat: quality above the base, weapon, type, and the
