@@ -1,0 +1,39 @@
+// Commands of the main window whose behaviour comes with later work on the editor. Each is
+// wired to its menu entry or gesture already and, until then, does nothing and shows nothing
+// (README.md lists them as not yet available).
+#include "app/MainDlg.h"
+
+void CMainDlg::OnNewEmptyOob() {}
+void CMainDlg::OnNewAttachedOob() {}
+void CMainDlg::OnNewExistingOob() {}
+void CMainDlg::OnLoad() {}
+void CMainDlg::OnSave() {}
+void CMainDlg::OnSaveAs() {}
+void CMainDlg::OnWorkspaceProperties() {}
+
+void CMainDlg::OnItemProperties() {}
+void CMainDlg::OnCopy() {}
+void CMainDlg::OnCut() {}
+void CMainDlg::OnAddNext(int) {}
+void CMainDlg::OnAddChild(int) {}
+void CMainDlg::OnPasteNext() {}
+void CMainDlg::OnPasteChild() {}
+void CMainDlg::OnAddTemplateNext() {}
+void CMainDlg::OnAddTemplateChild() {}
+void CMainDlg::OnDeleteItem() {}
+void CMainDlg::OnDeleteChildren() {}
+void CMainDlg::OnSaveItemToFile() {}
+void CMainDlg::OnSaveAsTemplate() {}
+void CMainDlg::OnEnterKey() {}
+void CMainDlg::OnTreeDblClick() {}
+bool CMainDlg::OnRenameEntry(HTREEITEM, const std::string*) {
+    return false;
+}
+
+void CMainDlg::OnArmiesSummary() {}
+void CMainDlg::OnFindItem() {}
+void CMainDlg::OnBackupSave() {}
+void CMainDlg::OnBackupRestore() {}
+void CMainDlg::OnGetData() {}
+void CMainDlg::OnSaveTargetFile() {}
+void CMainDlg::OnReport(int) {}

@@ -1,0 +1,84 @@
+#include "platform/DialogDriver.h"
+
+#include "platform/Dialog.h"
+
+void CDialogDriver::FocusMovedTo(int id) {
+    m_dialog.MoveFocus(id);
+}
+
+void CDialogDriver::TextChanged(int id, std::string text) {
+    if (CWnd* control = m_dialog.GetDlgItem(id)) {
+        control->SetWindowText(std::move(text));
+    }
+}
+
+void CDialogDriver::Clicked(int id) {
+    CWnd* control = m_dialog.GetDlgItem(id);
+    if (control && control->Kind() == ControlKind::CheckBox) {
+        control->SetCheck(control->GetCheck() == 0 ? 1 : 0);
+    }
+    m_dialog.DispatchCommand(id);
+}
+
+void CDialogDriver::SelectionChanged(int id, int index) {
+    if (CWnd* control = m_dialog.GetDlgItem(id)) {
+        control->Lines().SetCurSel(index);
+        m_dialog.Dispatch(CDialog::Event::SelChange, id);
+    }
+}
+
+void CDialogDriver::Command(int id) {
+    m_dialog.DispatchCommand(id);
+}
+
+void CDialogDriver::Enter() {
+    const CWnd* focus = m_dialog.GetDlgItem(m_dialog.GetFocusId());
+    if (focus && focus->Kind() == ControlKind::Button) {
+        m_dialog.DispatchCommand(focus->GetDlgCtrlID());
+        return;
+    }
+    for (const auto& control : m_dialog.Controls()) {
+        if (control->Kind() == ControlKind::Button && control->HasStyle(STYLE_DEFAULT)) {
+            if (control->IsWindowEnabled()) {
+                m_dialog.DispatchCommand(control->GetDlgCtrlID());
+            }
+            return;
+        }
+    }
+    m_dialog.DispatchCommand(IDOK);
+}
+
+void CDialogDriver::Escape() {
+    m_dialog.DispatchCommand(IDCANCEL);
+}
+
+void CDialogDriver::CloseBox() {
+    m_dialog.DispatchCommand(IDCANCEL);
+}
+
+void CDialogDriver::TreeSelected(int treeId, HTREEITEM entry) {
+    if (CWnd* control = m_dialog.GetDlgItem(treeId)) {
+        control->Tree().SelectItem(entry);
+    }
+}
+
+void CDialogDriver::TreeRightClick(int treeId) {
+    m_dialog.Dispatch(CDialog::Event::TreeRightClick, treeId);
+}
+
+void CDialogDriver::TreeDoubleClick(int treeId) {
+    m_dialog.Dispatch(CDialog::Event::TreeDoubleClick, treeId);
+}
+
+bool CDialogDriver::TreeEndLabelEdit(int treeId, HTREEITEM entry, const std::string* text) {
+    const bool keep = m_dialog.DispatchEndLabelEdit(treeId, entry, text);
+    CWnd* control = m_dialog.GetDlgItem(treeId);
+    if (keep && text && control) {
+        control->Tree().SetItemText(entry, *text);
+    }
+    return keep;
+}
+
+void CDialogDriver::Paint(CPaintDC& dc) {
+    m_dialog.OnPaint(dc);
+}

@@ -1,0 +1,67 @@
+// The ids of the editor's dialogs, controls, menu commands and icon. The logic and the
+// resource tables both use these names.
+#pragma once
+
+// Dialogs, menu and icon.
+enum : int {
+    IDD_ABOUTBOX = 100,
+    IDD_HARNWICK_DIALOG = 102,
+    IDR_MAINFRAME = 128,  // the program's icon
+    IDR_MAINMENU = 129,
+};
+
+// Controls of the main window.
+enum : int {
+    IDC_ENTER = 1000,  // the hidden default button that receives Enter
+    IDC_OOB_STATUS = 1001,
+    IDC_TREE = 1002,
+    IDC_BACKUP_STATUS = 1003,
+    IDC_MARKED_NAME = 1004,
+    IDC_MARKED_CAPTION = 1042,
+    IDC_CLIP_LIST = 1074,
+};
+
+// Menu commands.
+enum : int {
+    ID_FILE_NEW_EMPTY = 32771,
+    ID_FILE_NEW_EXISTING = 32772,
+    ID_FILE_LOAD = 32773,
+    ID_FILE_SAVE = 32774,
+    ID_FILE_SAVE_AS = 32775,
+    ID_FILE_PROPERTIES = 32776,
+    ID_FILE_EXIT = 32777,
+    ID_ABOUT = 32778,
+    ID_OPTIONS_FIND = 32779,
+    ID_BACKUP_SAVE = 32780,
+    ID_BACKUP_RESTORE = 32781,
+    ID_EDIT_SAVE_AS_TEMPLATE = 32783,
+    ID_REPORT_HTML = 32788,
+    ID_REPORT_KEY = 32789,
+    ID_REPORT_LEADER = 32790,
+    ID_REPORT_COST = 32791,
+    ID_EDIT_PROPERTIES = 32793,
+    ID_DELETE_ITEM = 32796,
+    ID_DELETE_CHILDREN = 32797,
+    ID_FILE_NEW_ATTACHED = 32798,
+    ID_ADD_NEXT_UNIT = 32799,
+    ID_ADD_NEXT_LEADER = 32800,
+    ID_ADD_NEXT_SUPPLY = 32801,
+    ID_ADD_NEXT_STRUCTURE = 32802,
+    ID_ADD_NEXT_PASTE = 32803,
+    ID_ADD_NEXT_TEMPLATE = 32804,
+    ID_EDIT_COPY = 32805,
+    ID_ADD_CHILD_UNIT = 32806,
+    ID_ADD_CHILD_LEADER = 32807,
+    ID_ADD_CHILD_SUPPLY = 32808,
+    ID_ADD_CHILD_STRUCTURE = 32809,
+    ID_ADD_CHILD_PASTE = 32810,
+    ID_ADD_CHILD_TEMPLATE = 32811,
+    ID_EDIT_CUT = 32812,
+    ID_EDIT_SAVE_TO_FILE = 32813,
+    ID_OPTIONS_GET_DATA = 32814,
+    ID_OPTIONS_SAVE_TARGET = 32815,
+    ID_OPTIONS_ARMIES_SUMMARY = 32816,
+};
+
+// The position of the Edit menu on the menu bar; it is also the tree's right-click menu.
+constexpr int kEditMenuPosition = 1;

@@ -1,0 +1,224 @@
+// Taking and writing fields: the exchange order, the stop at the first failing field, the text
+// limits, and the ranges of unsigned and double fields.
+#include <gtest/gtest.h>
+
+#include "HeadlessTest.h"
+#include "TestDialog.h"
+
+namespace {
+using K = ControlKind;
+
+const CDialogTemplate kFieldsDialog{
+    .id = 900,
+    .caption = "Fields",
+    .cx = 200,
+    .cy = 120,
+    .controls = {
+        {101, K::Edit, 10, 10, 80, 12},                    // name, at most 5 characters
+        {102, K::Edit, 10, 25, 80, 12, "", STYLE_DIGITS},  // strength, 0 to 100
+        {103, K::Edit, 10, 40, 80, 12},                    // factor, 0.5 to 2.5
+        {104, K::Edit, 10, 55, 80, 12, "", STYLE_DIGITS},  // quality, 1 to 6
+        {105, K::CheckBox, 10, 70, 80, 10, "Fanatic"},
+        {106, K::ComboBox, 10, 85, 80, 40},
+        {200, K::Button, 120, 10, 50, 14, "Accept"},
+    }};
+
+struct Fields {
+    std::string name = "abc";
+    unsigned strength = 10;
+    double factor = 1.5;
+    unsigned quality = 3;
+    int fanatic = 0;
+    int choice = 1;
+};
+
+// Exchanged deliberately out of template order: quality first.
+void Exchange(CDataExchange* pDX, Fields& f) {
+    DDX_Text(pDX, 104, f.quality);
+    DDV_MinMaxUInt(pDX, f.quality, 1, 6);
+    DDX_Text(pDX, 101, f.name);
+    DDV_MaxChars(pDX, f.name, 5);
+    DDX_Text(pDX, 102, f.strength);
+    DDV_MinMaxUInt(pDX, f.strength, 0, 100);
+    DDX_Text(pDX, 103, f.factor);
+    DDV_MinMaxDouble(pDX, f.factor, 0.5, 2.5);
+    DDX_Check(pDX, 105, f.fanatic);
+    DDX_CBIndex(pDX, 106, f.choice);
+}
+
+class DataExchangeTest : public HeadlessTest {
+protected:
+    DataExchangeTest() : dlg(kFieldsDialog) {
+        dlg.init = [](CTestDialog& d) {
+            for (const char* line : {"Remove", "Set strength to 0", "Skip"}) {
+                d.GetDlgItem(106)->Lines().AddString(line);
+            }
+        };
+        dlg.exchange = [this](CDataExchange* pDX) { Exchange(pDX, fields); };
+    }
+
+    // Runs the dialog with script, then closes it.
+    void Run(const std::function<void(CHeadlessUser&)>& script) {
+        ui.OnDialog(900, [&](CHeadlessUser& user) {
+            script(user);
+            user.Escape();
+        });
+        dlg.DoModal();
+    }
+
+    CTestDialog dlg;
+    Fields fields;
+};
+
+TEST_F(DataExchangeTest, WritingTheFieldsShowsTheValuesAndLimitsTheTextEdits) {
+    fields.factor = 0.25;
+    Run([&](CHeadlessUser& user) {
+        EXPECT_EQ(user.Text(101), "abc");
+        EXPECT_EQ(user.Text(102), "10");
+        EXPECT_EQ(user.Text(103), "0.25");
+        EXPECT_EQ(user.Text(104), "3");
+        EXPECT_EQ(user.Check(105), 0);
+        EXPECT_EQ(user.Lines(106).GetCurSel(), 1);
+        EXPECT_EQ(dlg.GetDlgItem(101)->GetLimitText(), 5);
+        EXPECT_EQ(dlg.GetDlgItem(102)->GetLimitText(), 0);
+
+        user.Type(101, "Brigade");
+        EXPECT_EQ(user.Text(101), "Briga");
+        user.Type(102, "1x2-5");
+        EXPECT_EQ(user.Text(102), "125");
+    });
+}
+
+TEST_F(DataExchangeTest, TakingValidFieldsUpdatesEveryMember) {
+    Run([&](CHeadlessUser& user) {
+        user.Type(101, "xyz");
+        user.Type(102, "20");
+        user.Type(103, " 2.25 ");
+        user.Type(104, "6");
+        user.Click(105);
+        user.Pick(106, "Skip");
+        EXPECT_TRUE(dlg.UpdateData(true));
+    });
+    EXPECT_EQ(fields.name, "xyz");
+    EXPECT_EQ(fields.strength, 20u);
+    EXPECT_DOUBLE_EQ(fields.factor, 2.25);
+    EXPECT_EQ(fields.quality, 6u);
+    EXPECT_EQ(fields.fanatic, 1);
+    EXPECT_EQ(fields.choice, 2);
+    EXPECT_TRUE(ui.Messages().empty());
+}
+
+struct FailingField {
+    int id;
+    std::string text;
+    std::string message;
+    // How many fields, in exchange order, were taken before the failing one.
+    int takenBefore;
+};
+
+class FailingFieldTest : public DataExchangeTest,
+                         public ::testing::WithParamInterface<FailingField> {};
+
+TEST_P(FailingFieldTest, StopsThereAndKeepsItAndTheFieldsAfterIt) {
+    const FailingField& failing = GetParam();
+    ui.AnswerMessage(failing.message, IDOK);
+    Run([&](CHeadlessUser& user) {
+        user.Type(104, "5");
+        user.Type(101, "xyz");
+        user.Type(102, "20");
+        user.Type(103, "2");
+        user.Click(105);
+        user.Pick(106, 0);
+        // Set as pasted text would be, past what typing allows.
+        dlg.GetDlgItem(failing.id)->SetWindowText(failing.text);
+        EXPECT_FALSE(dlg.UpdateData(true));
+        EXPECT_EQ(user.FocusId(), failing.id);
+    });
+    const Fields old;
+    const int taken = failing.takenBefore;
+    EXPECT_EQ(fields.quality, taken > 0 ? 5u : old.quality);
+    EXPECT_EQ(fields.name, taken > 1 ? "xyz" : old.name);
+    EXPECT_EQ(fields.strength, taken > 2 ? 20u : old.strength);
+    EXPECT_EQ(fields.factor, old.factor);
+    EXPECT_EQ(fields.fanatic, old.fanatic);
+    EXPECT_EQ(fields.choice, old.choice);
+    ASSERT_EQ(ui.Messages().size(), 1u);
+    EXPECT_EQ(ui.Messages()[0].Icon(), MB_ICONEXCLAMATION);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EachCheck, FailingFieldTest,
+    ::testing::Values(FailingField{104, "0", "Please enter a whole number from 1 to 6.", 0},
+                      FailingField{104, "", "Please enter a whole number from 1 to 6.", 0},
+                      FailingField{101, "Brigade", "Please enter at most 5 characters.", 1},
+                      FailingField{102, "101", "Please enter a whole number from 0 to 100.", 2},
+                      FailingField{102, "-1", "Please enter a whole number from 0 to 100.", 2},
+                      FailingField{102, "4294967296", "Please enter a whole number from 0 to 100.",
+                                   2},
+                      FailingField{103, "2.6", "Please enter a number from 0.5 to 2.5.", 3},
+                      FailingField{103, "1,5", "Please enter a number from 0.5 to 2.5.", 3},
+                      FailingField{103, "inf", "Please enter a number from 0.5 to 2.5.", 3}));
+
+TEST_F(DataExchangeTest, ANumberWithoutARangeCheckIsStillRefusedWhenItIsNoNumber) {
+    unsigned whole = 7;
+    double real = 0.5;
+    dlg.exchange = [&](CDataExchange* pDX) {
+        DDX_Text(pDX, 102, whole);
+        DDX_Text(pDX, 103, real);
+    };
+    ui.AnswerMessage("Please enter a whole number.", IDOK);
+    ui.AnswerMessage("Please enter a number.", IDOK);
+    Run([&](CHeadlessUser& user) {
+        dlg.GetDlgItem(102)->SetWindowText("");
+        EXPECT_FALSE(dlg.UpdateData(true));
+        EXPECT_EQ(user.FocusId(), 102);
+        dlg.GetDlgItem(102)->SetWindowText("8");
+        dlg.GetDlgItem(103)->SetWindowText("x");
+        EXPECT_FALSE(dlg.UpdateData(true));
+        EXPECT_EQ(user.FocusId(), 103);
+    });
+    EXPECT_EQ(whole, 8u);
+    EXPECT_EQ(real, 0.5);
+}
+
+// The focus-lost handler that takes the fields runs when the user clicks elsewhere; a failed
+// check puts the focus back, and the click that would have taken it is lost.
+TEST_F(DataExchangeTest, AFailedCheckOnFocusLostKeepsTheFocusAndLosesTheClick) {
+    dlg.OnKillFocus(102, [&] {
+        dlg.Log("kill 102");
+        dlg.UpdateData(true);
+    });
+    dlg.OnClicked(200, [&] { dlg.Log("click 200"); });
+    ui.AnswerMessage("Please enter a whole number from 0 to 100.", IDOK);
+    Run([&](CHeadlessUser& user) {
+        user.Type(102, "500");
+        user.Click(200);
+        EXPECT_EQ(user.FocusId(), 102);
+        user.Type(102, "50");
+        user.Click(200);
+        EXPECT_EQ(user.FocusId(), 200);
+    });
+    EXPECT_EQ(dlg.log, (std::vector<std::string>{"kill 102", "kill 102", "click 200", "OnCancel"}));
+    EXPECT_EQ(fields.strength, 50u);
+}
+
+TEST(NumberText, ReadsAndWritesAsTheFieldsShowThem) {
+    unsigned u = 0;
+    EXPECT_TRUE(ParseUnsigned(" 4294967295 ", u));
+    EXPECT_EQ(u, 4294967295u);
+    for (const char* bad : {"", " ", "+1", "1 2", "0x10", "12a"}) {
+        EXPECT_FALSE(ParseUnsigned(bad, u)) << bad;
+    }
+    double d = 0;
+    EXPECT_TRUE(ParseDouble("+1.5e2", d));
+    EXPECT_EQ(d, 150.0);
+    EXPECT_TRUE(ParseDouble("-.5", d));
+    EXPECT_EQ(d, -0.5);
+    for (const char* bad : {"", "nan", "1.5.2", "1e999", "--1"}) {
+        EXPECT_FALSE(ParseDouble(bad, d)) << bad;
+    }
+    EXPECT_EQ(FormatDouble(0.1), "0.1");
+    EXPECT_EQ(FormatDouble(1e20), "1e+20");
+    EXPECT_EQ(FormatUnsigned(0), "0");
+}
+}  // namespace
