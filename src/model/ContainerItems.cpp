@@ -2,8 +2,8 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
-#include "model/TextLines.h"
 #include "model/SupplyItem.h"
+#include "model/TextLines.h"
 
 void CStructureItem::ReadFields(CItemLineReader& reader) {
     FindRecordsByKeyword(*this);

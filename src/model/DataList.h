@@ -59,10 +59,15 @@ private:
     CDataListNode* m_pTail = nullptr;
     CDataListNode* m_pCursor = nullptr;
     KeyOf m_keyOf;
+    // Keys are short names: FNV-1a hashes them in a few instructions a byte.
     struct KeyHash {
         using is_transparent = void;
         std::size_t operator()(std::string_view key) const {
-            return std::hash<std::string_view>()(key);
+            std::size_t hash = 14695981039346656037ULL;
+            for (unsigned char c : key) {
+                hash = (hash ^ c) * 1099511628211ULL;
+            }
+            return hash;
         }
     };
     std::unordered_map<std::string, CDataListNode*, KeyHash, std::equal_to<>> m_index;

@@ -19,25 +19,32 @@ long long TruncateToInteger(double value) {
     return static_cast<long long>(low);
 }
 
+void CLineTokenizer::SetDelimiter(char delimiter) {
+    m_cDelimiter = delimiter;
+    m_bSeparator.fill(false);
+    m_bSeparator[static_cast<unsigned char>('\t')] = true;
+    m_bSeparator[static_cast<unsigned char>(delimiter)] = true;
+}
+
 // Compacts the line in place, in one pass: separators (tabs and the delimiter) before the first
 // field and after the last are dropped, and every run of them between fields becomes one
 // delimiter.
 void CLineTokenizer::SetLine(std::string_view text) {
     m_strLine.assign(text.substr(0, kMaxLine));
     m_nCursor = 0;
-    char* line = m_strLine.data();
+    char* const begin = m_strLine.data();
     const std::size_t length = m_strLine.size();
     std::size_t out = 0;
     bool inToken = false;
     for (std::size_t i = 0; i < length; ++i) {
-        const char c = line[i];
-        if (c == '\t' || c == m_cDelimiter) {
+        const char c = begin[i];
+        if (m_bSeparator[static_cast<unsigned char>(c)]) {
             if (inToken) {
-                line[out++] = m_cDelimiter;
+                begin[out++] = m_cDelimiter;
                 inToken = false;
             }
         } else {
-            line[out++] = c;
+            begin[out++] = c;
             inToken = true;
         }
     }

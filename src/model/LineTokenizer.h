@@ -2,6 +2,7 @@
 // of these, with the delimiter of its file format.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -11,10 +12,11 @@ public:
     // The longest line the tokenizer holds; longer text is cut.
     static constexpr std::size_t kMaxLine = 255;
 
+    CLineTokenizer() { SetDelimiter('\0'); }
     virtual ~CLineTokenizer() = default;
 
     // Must come before the first SetLine: the delimiter takes part in normalisation.
-    void SetDelimiter(char delimiter) { m_cDelimiter = delimiter; }
+    void SetDelimiter(char delimiter);
     void SetLine(std::string_view text);
     std::string GetLine() const { return m_strLine; }
     std::string_view Line() const { return m_strLine; }
@@ -48,6 +50,7 @@ private:
     std::string m_strLine;
     std::size_t m_nCursor = 0;
     char m_cDelimiter = '\0';
+    std::array<bool, 256> m_bSeparator{};  // the tab and the delimiter, by byte value
 };
 
 // Numbers read from a line are stored by truncating toward zero and keeping the low bits of the

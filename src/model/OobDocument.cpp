@@ -172,11 +172,10 @@ std::int16_t COobDocument::ReadNormalisedLine(CTreeStore& tree, COobReaderState&
     CItemLineReader reader(m_tokenizer, kind);
     item->ReadFields(reader);
     HTREEITEM entry =
-        tree.InsertItem(item->m_strName, state.parents[state.level - 1], state.insertAfter);
+        tree.InsertItem(std::move(item), state.parents[state.level - 1], state.insertAfter);
     if (!entry) {
         return READ_OTHER;
     }
-    tree.SetItemData(entry, std::move(item));
     state.parents[state.level] = entry;
     state.insertAfter = TVI_LAST;
     return READ_OTHER;

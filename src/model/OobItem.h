@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "model/DataObject.h"
+#include "platform/SmallObjectPool.h"
 #include "platform/TreeStore.h"
 
 class CGameDatabase;
@@ -34,6 +35,8 @@ enum : int { MEASURE_COST = 0, MEASURE_COUNT = 1, MEASURE_MEN = 2 };
 
 class COobItem : public CDataObject, public CTreeItemData {
 public:
+    HARNWICK_POOL_ALLOCATED
+
     COobItem() { m_nType = TYPE_ITEM; }
 
     // Fills the item from its line. Each kind reads its own fields (ReadFields) after the
@@ -59,6 +62,9 @@ public:
 
     // The kind's own part of Read: its fields, in line order, from the reader.
     virtual void ReadFields(CItemLineReader& reader);
+
+    // An entry shows the item's name unless it was given a label of its own.
+    const std::string* Label() const override { return &m_strName; }
 
     // A copy of the item with the same records (the editors work on one).
     virtual std::unique_ptr<COobItem> Clone() const;

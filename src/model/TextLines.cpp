@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <istream>
 #include <sstream>
@@ -33,10 +34,26 @@ std::string_view TrimLine(std::string_view line) {
 }
 
 bool ReadWholeFile(const std::string& path, std::string& text) {
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error)) {
+        return false;
+    }
     std::ifstream in(path, std::ios::binary);
     if (!in) {
         return false;
     }
+    // Read in one piece when the size is known; a pipe or a special file is read to its end.
+    in.seekg(0, std::ios::end);
+    const std::streamoff size = in.tellg();
+    in.seekg(0, std::ios::beg);
+    if (size > 0 && in) {
+        text.resize(static_cast<std::size_t>(size));
+        in.read(text.data(), size);
+        text.resize(static_cast<std::size_t>(in.gcount()));
+        return true;
+    }
+    in.clear();
+    in.seekg(0, std::ios::beg);
     std::ostringstream buffer;
     buffer << in.rdbuf();
     text = std::move(buffer).str();

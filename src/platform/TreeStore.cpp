@@ -27,11 +27,34 @@ HTREEITEM CTreeStore::Resolve(HTREEITEM parent) const {
 
 void CTreeStore::Renumber(CTreeEntry& parent, std::size_t from) {
     for (std::size_t i = from; i < parent.m_children.size(); ++i) {
-        parent.m_children[i]->m_nRow = i;
+        parent.m_children[i]->m_nRow = static_cast<std::uint32_t>(i);
     }
 }
 
+const std::string& CTreeEntry::Label() const {
+    static const std::string none;
+    if (m_pLabel) {
+        return *m_pLabel;
+    }
+    const std::string* label = m_pData ? m_pData->Label() : nullptr;
+    return label ? *label : none;
+}
+
 HTREEITEM CTreeStore::InsertItem(std::string label, HTREEITEM parent, HTREEITEM insertAfter) {
+    auto entry = std::make_unique<CTreeEntry>();
+    entry->m_pLabel = std::make_unique<std::string>(std::move(label));
+    return Insert(std::move(entry), parent, insertAfter);
+}
+
+HTREEITEM CTreeStore::InsertItem(std::unique_ptr<CTreeItemData> data, HTREEITEM parent,
+                                 HTREEITEM insertAfter) {
+    auto entry = std::make_unique<CTreeEntry>();
+    entry->m_pData = std::move(data);
+    return Insert(std::move(entry), parent, insertAfter);
+}
+
+HTREEITEM CTreeStore::Insert(std::unique_ptr<CTreeEntry> entry, HTREEITEM parent,
+                             HTREEITEM insertAfter) {
     if (parent == TVI_FIRST || parent == TVI_LAST) {
         return nullptr;
     }
@@ -43,13 +66,15 @@ HTREEITEM CTreeStore::InsertItem(std::string label, HTREEITEM parent, HTREEITEM 
                insertAfter->m_pParent == &owner) {
         row = insertAfter->m_nRow + 1;
     }
-    auto entry = std::make_unique<CTreeEntry>();
-    entry->m_strLabel = std::move(label);
     entry->m_pParent = &owner;
-    entry->m_nRow = row;
+    entry->m_nRow = static_cast<std::uint32_t>(row);
     HTREEITEM handle = entry.get();
     if (m_pObserver) {
         m_pObserver->BeforeInsert(&owner, row);
+    }
+    // A parent's first child brings room for a few more: most echelons hold several.
+    if (owner.m_children.empty()) {
+        owner.m_children.reserve(8);
     }
     owner.m_children.insert(owner.m_children.begin() + static_cast<std::ptrdiff_t>(row),
                             std::move(entry));
@@ -64,7 +89,7 @@ HTREEITEM CTreeStore::InsertItem(std::string label, HTREEITEM parent, HTREEITEM 
 }
 
 void CTreeStore::SetItemText(HTREEITEM entry, std::string label) {
-    entry->m_strLabel = std::move(label);
+    entry->m_pLabel = std::make_unique<std::string>(std::move(label));
     if (m_pObserver) {
         m_pObserver->LabelChanged(entry);
     }
@@ -79,7 +104,7 @@ CTreeItemData* CTreeStore::GetItemData(HTREEITEM entry) const {
 }
 
 const std::string& CTreeStore::GetItemText(HTREEITEM entry) const {
-    return entry->m_strLabel;
+    return entry->Label();
 }
 
 bool CTreeStore::ItemHasChildren(HTREEITEM entry) const {

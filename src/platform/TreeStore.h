@@ -5,15 +5,21 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "platform/SmallObjectPool.h"
 
 // Whatever an entry holds as its data. The entry owns it: deleting an entry destroys the data of
 // its whole subtree through this virtual destructor.
 class CTreeItemData {
 public:
     virtual ~CTreeItemData() = default;
+    // The label an entry inserted without a text of its own shows: the data's own name, so that
+    // the store keeps no second copy of it (the tree control's text callback).
+    virtual const std::string* Label() const { return nullptr; }
 };
 
 class CTreeEntry;
@@ -45,7 +51,9 @@ public:
 
 class CTreeEntry {
 public:
-    const std::string& Label() const { return m_strLabel; }
+    HARNWICK_POOL_ALLOCATED
+
+    const std::string& Label() const;
     CTreeItemData* Data() const { return m_pData.get(); }
     HTREEITEM Parent() const { return m_pParent; }
     std::size_t Row() const { return m_nRow; }
@@ -55,12 +63,12 @@ public:
 
 private:
     friend class CTreeStore;
-    std::string m_strLabel;
+    std::unique_ptr<std::string> m_pLabel;  // none: the data's label
     std::unique_ptr<CTreeItemData> m_pData;
     HTREEITEM m_pParent = nullptr;  // the store's hidden root for top-level entries
-    std::size_t m_nRow = 0;         // position among the parent's children
-    std::vector<std::unique_ptr<CTreeEntry>> m_children;
+    std::uint32_t m_nRow = 0;       // position among the parent's children
     bool m_bExpanded = false;
+    std::vector<std::unique_ptr<CTreeEntry>> m_children;
 };
 
 class CTreeStore {
@@ -75,6 +83,9 @@ public:
     // child of parent puts the entry last, as the tree control does. Returns none when
     // parent is not an entry of this store.
     HTREEITEM InsertItem(std::string label, HTREEITEM parent = TVI_ROOT,
+                         HTREEITEM insertAfter = TVI_LAST);
+    // The same for an entry that holds data from the start and shows the data's label.
+    HTREEITEM InsertItem(std::unique_ptr<CTreeItemData> data, HTREEITEM parent = TVI_ROOT,
                          HTREEITEM insertAfter = TVI_LAST);
 
     void SetItemText(HTREEITEM entry, std::string label);
@@ -111,6 +122,7 @@ public:
 
 private:
     HTREEITEM Resolve(HTREEITEM parent) const;
+    HTREEITEM Insert(std::unique_ptr<CTreeEntry> entry, HTREEITEM parent, HTREEITEM insertAfter);
     static void Renumber(CTreeEntry& parent, std::size_t from);
     std::size_t DestroyChildren(CTreeEntry& entry);
 
