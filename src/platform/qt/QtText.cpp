@@ -1,0 +1,38 @@
+#include "platform/qt/QtText.h"
+
+#include <QFile>
+
+#include "platform/Windows1252.h"
+
+QString ToQString(const std::string& windows1252) {
+    const std::u32string text = Windows1252ToUnicode(windows1252);
+    return QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+bool FromQString(const QString& text, std::string& windows1252) {
+    const QList<uint> ucs4 = text.toUcs4();
+    return UnicodeToWindows1252(std::u32string(ucs4.begin(), ucs4.end()), windows1252);
+}
+
+QString PathToQString(const std::string& path) {
+    return QFile::decodeName(QByteArray(path.data(), static_cast<qsizetype>(path.size())));
+}
+
+std::string PathFromQString(const QString& path) {
+    return QFile::encodeName(path).toStdString();
+}
+
+QValidator::State CWindows1252Validator::validate(QString& input, int&) const {
+    std::string bytes;
+    if (!FromQString(input, bytes)) {
+        return Invalid;
+    }
+    if (m_bDigitsOnly) {
+        for (char c : bytes) {
+            if (c < '0' || c > '9') {
+                return Invalid;
+            }
+        }
+    }
+    return Acceptable;
+}

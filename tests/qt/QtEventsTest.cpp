@@ -1,0 +1,232 @@
+// The Qt face maps the user's real events to the dialog's handlers as the original system did:
+// focus lost before the click that took it, Enter on the hidden default button, a drop-down
+// selection, a label edit ending with and without new text, a click on a notifying static.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+
+#include "platform/qt/QtBackend.h"
+#include "ui/TestDialog.h"
+
+namespace {
+using K = ControlKind;
+
+const CDialogTemplate kEventsDialog{
+    .id = 950,
+    .caption = "Events",
+    .cx = 240,
+    .cy = 160,
+    .controls = {
+        {101, K::Edit, 10, 10, 80, 12},
+        {102, K::Edit, 10, 25, 80, 12, "", STYLE_DIGITS},
+        {103, K::CheckBox, 10, 40, 80, 10, "Fanatic"},
+        {104, K::ComboBox, 10, 55, 80, 40},
+        {105, K::Static, 10, 70, 80, 12, "Status", STYLE_NOTIFY | STYLE_SUNKEN},
+        {106, K::Static, 10, 85, 80, 12, "Label"},
+        {107, K::TreeView, 100, 10, 130, 100, "",
+         STYLE_EDITLABELS | STYLE_HASBUTTONS | STYLE_LINESATROOT},
+        {200, K::Button, 10, 100, 50, 14, "Accept"},
+        {1000, K::Button, 10, 10, 17, 14, "+", STYLE_DEFAULT | STYLE_HIDDEN},
+    }};
+
+// Types text as key presses carrying the characters (QTest's own typing knows only ASCII).
+void Type(QWidget* widget, const QString& text) {
+    for (const QChar c : text) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(c));
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_unknown, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(widget, &press);
+        QApplication::sendEvent(widget, &release);
+    }
+}
+
+class QtEventsTest : public ::testing::Test {
+protected:
+    QtEventsTest() : dlg(kEventsDialog) {
+        dlg.init = [this](CTestDialog& d) {
+            for (const char* line : {"Infantry", "Cavalry", "Artillery"}) {
+                d.GetDlgItem(104)->Lines().AddString(line);
+            }
+            d.GetDlgItem(104)->Lines().SetCurSel(0);
+            d.GetDlgItem(102)->LimitText(4);
+            CTreeStore& tree = d.GetDlgItem(107)->Tree();
+            army = tree.InsertItem("Army");
+            corps = tree.InsertItem("Corps", army);
+            tree.Expand(army, TVE_EXPAND);
+            tree.SelectItem(corps);
+        };
+        dlg.OnKillFocus(101, [this] { dlg.Log("kill 101"); });
+        dlg.OnKillFocus(102, [this] { dlg.Log("kill 102"); });
+        dlg.OnClicked(200, [this] { dlg.Log("click 200"); });
+        dlg.OnClicked(1000, [this] {
+            dlg.Log("click 1000");
+            dlg.GotoDlgCtrl(200);
+        });
+        dlg.OnClicked(
+            103, [this] { dlg.Log("check " + std::to_string(dlg.GetDlgItem(103)->GetCheck())); });
+        dlg.OnClicked(105, [this] { dlg.Log("click 105"); });
+        dlg.OnSelChange(104, [this] {
+            dlg.Log("select " + std::to_string(dlg.GetDlgItem(104)->Lines().GetCurSel()));
+        });
+        dlg.OnTreeRightClick(107, [this] { dlg.Log("right click"); });
+        dlg.OnTreeEndLabelEdit(107, [this](HTREEITEM entry, const std::string* text) {
+            dlg.Log("end edit " + entry->Label() + (text ? " -> " + *text : " cancelled"));
+            return text != nullptr;
+        });
+    }
+
+    // Runs body inside the dialog's modal loop once its window is up and active, then closes
+    // the dialog if the body did not.
+    void Run(const std::function<void()>& body) {
+        QTimer::singleShot(0, [&] {
+            window = QApplication::activeModalWidget();
+            ASSERT_NE(window, nullptr);
+            window->activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+            body();
+            if (dlg.IsRunning()) {
+                dlg.EndDialog(IDCANCEL);
+            }
+        });
+        dlg.DoModal();
+    }
+
+    template <class W>
+    W* Widget(int id) {
+        W* widget = window->findChild<W*>(QString::number(id));
+        EXPECT_NE(widget, nullptr) << id;
+        return widget;
+    }
+
+    CQtBackend backend;
+    CTestDialog dlg;
+    QWidget* window = nullptr;
+    HTREEITEM army = nullptr;
+    HTREEITEM corps = nullptr;
+};
+
+TEST_F(QtEventsTest, FocusLostRunsBeforeTheClickThatTookTheFocus) {
+    Run([&] {
+        auto* edit = Widget<QLineEdit>(101);
+        EXPECT_EQ(QApplication::focusWidget(), edit);
+        Type(edit, QString::fromUtf8("Gen. Lef\u00E8vre"));
+        QTest::mouseClick(Widget<QPushButton>(200), Qt::LeftButton);
+        EXPECT_EQ(dlg.GetDlgItem(101)->GetWindowText(), "Gen. Lef\xE8vre");
+        EXPECT_EQ(dlg.GetFocusId(), 200);
+    });
+    EXPECT_EQ(dlg.log, (std::vector<std::string>{"kill 101", "click 200"}));
+}
+
+TEST_F(QtEventsTest, TypingRefusesWhatTheEditCannotHold) {
+    Run([&] {
+        auto* name = Widget<QLineEdit>(101);
+        Type(name, QString::fromUtf8("\u041A\u043E\u0440\u043F\u0443\u0441 A"));
+        EXPECT_EQ(dlg.GetDlgItem(101)->GetWindowText(), " A");
+        auto* strength = Widget<QLineEdit>(102);
+        strength->setFocus();
+        QTest::keyClicks(strength, "12a345");
+        EXPECT_EQ(dlg.GetDlgItem(102)->GetWindowText(), "1234");
+    });
+}
+
+TEST_F(QtEventsTest, EnterPressesTheHiddenDefaultButtonWhichMovesTheFocus) {
+    Run([&] {
+        auto* edit = Widget<QLineEdit>(101);
+        auto* accept = Widget<QPushButton>(200);
+        QTest::keyClicks(edit, "7");
+        QTest::keyClick(edit, Qt::Key_Return);
+        EXPECT_EQ(QApplication::focusWidget(), accept);
+        EXPECT_EQ(dlg.GetFocusId(), 200);
+        QTest::keyClick(accept, Qt::Key_Return);
+    });
+    EXPECT_EQ(dlg.log, (std::vector<std::string>{"click 1000", "kill 101", "click 200"}));
+}
+
+TEST_F(QtEventsTest, ADropDownSelectionReachesItsHandlerAndTheState) {
+    Run([&] {
+        auto* combo = Widget<QComboBox>(104);
+        EXPECT_EQ(combo->currentIndex(), 0);
+        EXPECT_EQ(combo->count(), 3);
+        QTest::keyClick(combo, Qt::Key_Down);
+        EXPECT_EQ(dlg.GetDlgItem(104)->Lines().GetCurSel(), 1);
+        dlg.GetDlgItem(104)->Lines().SetCurSel(2);
+        dlg.RedrawWindow();
+        EXPECT_EQ(combo->currentText(), "Artillery");
+    });
+    EXPECT_EQ(dlg.log, (std::vector<std::string>{"select 1"}));
+}
+
+TEST_F(QtEventsTest, ALabelEditEndsWithNewTextOrCancelled) {
+    Run([&] {
+        auto* view = Widget<QTreeView>(107);
+        EXPECT_EQ(view->currentIndex().data().toString(), "Corps");
+        view->setFocus();
+        QTest::keyClick(view, Qt::Key_F2);
+        auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_NE(editor, nullptr);
+        editor->selectAll();
+        Type(editor, QString::fromUtf8("II Corps \u2013 \u0416"));
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(corps->Label(), "II Corps \x96 ");
+        EXPECT_EQ(view->currentIndex().data().toString(), QString::fromUtf8("II Corps \u2013 "));
+
+        QTest::keyClick(view, Qt::Key_F2);
+        editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_NE(editor, nullptr);
+        QTest::keyClicks(editor, "x");
+        QTest::keyClick(editor, Qt::Key_Escape);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(corps->Label(), "II Corps \x96 ");
+        EXPECT_TRUE(dlg.IsRunning());  // Escape ended the edit, not the dialog
+    });
+    EXPECT_EQ(dlg.log, (std::vector<std::string>{"kill 101", "end edit Corps -> II Corps \x96 ",
+                                                 "end edit II Corps \x96  cancelled"}));
+}
+
+TEST_F(QtEventsTest, ANotifyingStaticReportsClicksAndAPlainOneDoesNot) {
+    Run([&] {
+        QTest::mouseClick(Widget<QLabel>(105), Qt::LeftButton);
+        QTest::mouseClick(Widget<QLabel>(106), Qt::LeftButton);
+        auto* check = Widget<QCheckBox>(103);
+        QTest::mouseClick(check, Qt::LeftButton, {}, QPoint(4, check->height() / 2));
+        EXPECT_EQ(dlg.GetDlgItem(103)->GetCheck(), 1);
+    });
+    EXPECT_EQ(dlg.log, (std::vector<std::string>{"click 105", "kill 101", "check 1"}));
+}
+
+TEST_F(QtEventsTest, TheTreeFollowsTheStoreAndARightClickKeepsTheSelection) {
+    Run([&] {
+        auto* view = Widget<QTreeView>(107);
+        CTreeStore& tree = dlg.GetDlgItem(107)->Tree();
+        const QRect armyRow = view->visualRect(view->model()->index(0, 0));
+        QTest::mouseClick(view->viewport(), Qt::RightButton, {}, armyRow.center());
+        EXPECT_EQ(tree.GetSelectedItem(), corps);
+
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, armyRow.center());
+        EXPECT_EQ(tree.GetSelectedItem(), army);
+
+        const HTREEITEM added = tree.InsertItem("Reserve", army);
+        tree.SelectItem(added);
+        EXPECT_EQ(view->currentIndex().data().toString(), "Reserve");
+        tree.DeleteItem(added);
+        EXPECT_EQ(tree.GetSelectedItem(), nullptr);
+        EXPECT_FALSE(view->selectionModel()->hasSelection());
+        tree.Expand(army, TVE_COLLAPSE);
+        EXPECT_FALSE(view->isExpanded(view->model()->index(0, 0)));
+
+        const CRect label = dlg.GetTreeItemRect(107, army);
+        EXPECT_EQ(label.top, armyRow.top());
+        EXPECT_LT(label.right, view->viewport()->width());
+    });
+    EXPECT_EQ(dlg.log, (std::vector<std::string>{"kill 101", "right click"}));
+}
+}  // namespace
