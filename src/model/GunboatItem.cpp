@@ -2,6 +2,7 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
+#include "model/LineWriter.h"
 #include "model/SupplyItem.h"
 #include "model/TextLines.h"
 #include "model/UnitItem.h"
@@ -16,20 +17,12 @@ void CGunboatItem::ReadFields(CItemLineReader& reader) {
 }
 
 void CGunboatItem::ToText(std::string& out) const {
-    if (m_pKind) {
-        out += m_pKind->m_strKeyword;
-    }
-    AppendNumber(out, m_nStrength);
-    out += ' ';
-    AppendNumber(out, m_nQuality);
-    out += ' ';
-    if (m_pWeapon) {
-        out += m_pWeapon->m_strWeapon;
-    }
-    out += ' ';
-    AppendNumber(out, m_nPicture);
-    out += ' ';
-    out += m_strName;
+    const std::string_view keyword = m_pKind ? m_pKind->m_strKeyword : std::string_view();
+    const std::string_view weapon = m_pWeapon ? m_pWeapon->m_strWeapon : std::string_view();
+    CLineWriter line(out, keyword.size() + weapon.size() + m_strName.size() +
+                              3 * (CLineWriter::kNumberRoom + 1) + 1);
+    line.Text(keyword).Number(m_nStrength).Char(' ').Number(m_nQuality).Char(' ');
+    line.Text(weapon).Char(' ').Number(m_nPicture).Char(' ').Text(m_strName);
 }
 
 double CGunboatItem::CostModifier() const {

@@ -4,6 +4,7 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
+#include "model/LineWriter.h"
 #include "model/TextLines.h"
 
 void CLeaderItem::ReadFields(CItemLineReader& reader) {
@@ -16,18 +17,12 @@ void CLeaderItem::ReadFields(CItemLineReader& reader) {
 }
 
 void CLeaderItem::ToText(std::string& out) const {
-    if (m_pKind) {
-        out += m_pKind->m_strKeyword;
-    }
-    if (m_pType) {
-        out += m_pType->m_strType;
-    }
-    out += ' ';
-    AppendNumber(out, m_nLeadership);
-    out += ' ';
-    AppendNumber(out, m_nThird);
-    out += ' ';
-    out += m_strName;
+    const std::string_view keyword = m_pKind ? m_pKind->m_strKeyword : std::string_view();
+    const std::string_view type = m_pType ? m_pType->m_strType : std::string_view();
+    CLineWriter line(
+        out, keyword.size() + type.size() + m_strName.size() + 3 * (CLineWriter::kNumberRoom + 1));
+    line.Text(keyword).Text(type).Char(' ').Number(m_nLeadership).Char(' ').Number(m_nThird);
+    line.Char(' ').Text(m_strName);
 }
 
 double CLeaderItem::CostModifier() const {

@@ -31,7 +31,7 @@ void WalkLines(const CTreeStore& tree, HTREEITEM start, Emit emit) {
         const int level = walk.Depth();
         const COobItem* item = ItemOf(tree, walk.Current());
         const bool container = item && IsContainer(*item);
-        const bool childless = !tree.ItemHasChildren(walk.Current());
+        const bool childless = walk.Current()->ChildCount() == 0;
         if (item) {
             emit(level, item, {});
         }

@@ -2,6 +2,7 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
+#include "model/LineWriter.h"
 #include "model/TextLines.h"
 
 void FindRecordsByKeyword(COobItem& item) {
@@ -20,14 +21,10 @@ double CostByType(const COobItem& item, int count) {
 namespace {
 
 void AppendLine(std::string& out, const COobItem& item, long long first, long long second) {
-    if (item.m_pKind) {
-        out += item.m_pKind->m_strKeyword;
-    }
-    AppendNumber(out, first);
-    out += ' ';
-    AppendNumber(out, second);
-    out += ' ';
-    out += item.m_strName;
+    const std::string_view keyword = item.m_pKind ? item.m_pKind->m_strKeyword : std::string_view();
+    CLineWriter line(out,
+                     keyword.size() + item.m_strName.size() + 2 * (CLineWriter::kNumberRoom + 1));
+    line.Text(keyword).Number(first).Char(' ').Number(second).Char(' ').Text(item.m_strName);
 }
 
 double SupplyMen(const COobItem& item, std::int16_t supply) {

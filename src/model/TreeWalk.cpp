@@ -1,15 +1,23 @@
 #include "model/TreeWalk.h"
 
+// The steps read the entries directly: every writer and report takes a million of them.
 namespace {
 
+HTREEITEM NextSibling(HTREEITEM entry) {
+    const CTreeEntry& parent = *entry->Parent();
+    const std::size_t next = entry->Row() + 1;
+    return next < parent.ChildCount() ? parent.Child(next) : nullptr;
+}
+
 int Climb(const CTreeStore& tree, HTREEITEM& current) {
+    const HTREEITEM root = tree.HiddenRoot();
     int level = -1;
     for (HTREEITEM e = current;; --level) {
-        HTREEITEM parent = tree.GetParentItem(e);
-        if (parent == nullptr) {
+        HTREEITEM parent = e->Parent();
+        if (parent == root) {
             return STEP_END;
         }
-        if (HTREEITEM next = tree.GetNextSiblingItem(parent)) {
+        if (HTREEITEM next = NextSibling(parent)) {
             current = next;
             return level;
         }
@@ -20,7 +28,7 @@ int Climb(const CTreeStore& tree, HTREEITEM& current) {
 }  // namespace
 
 int TreeStepOver(const CTreeStore& tree, HTREEITEM& current) {
-    if (HTREEITEM next = tree.GetNextSiblingItem(current)) {
+    if (HTREEITEM next = NextSibling(current)) {
         current = next;
         return 0;
     }
@@ -28,8 +36,8 @@ int TreeStepOver(const CTreeStore& tree, HTREEITEM& current) {
 }
 
 int TreeStep(const CTreeStore& tree, HTREEITEM& current) {
-    if (HTREEITEM child = tree.GetChildItem(current)) {
-        current = child;
+    if (current->ChildCount() > 0) {
+        current = current->Child(0);
         return 1;
     }
     return TreeStepOver(tree, current);

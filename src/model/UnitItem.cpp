@@ -5,6 +5,7 @@
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
+#include "model/LineWriter.h"
 #include "model/ReaderPrompts.h"
 #include "model/TextLines.h"
 
@@ -72,30 +73,18 @@ void CUnitItem::SettleUnknownWeapon(std::string_view weaponName, std::string_vie
 }
 
 void CUnitItem::ToText(std::string& out) const {
-    if (m_pKind) {
-        out += m_pKind->m_strKeyword;
+    const std::string_view keyword = m_pKind ? m_pKind->m_strKeyword : std::string_view();
+    const std::string_view type = m_pType ? m_pType->m_strType : std::string_view();
+    const std::string_view weapon = m_pWeapon ? m_pWeapon->m_strWeapon : std::string_view();
+    const bool hasReserved = m_pDatabase && m_pDatabase->m_nFormatVariant != 0;
+    CLineWriter line(out, keyword.size() + type.size() + weapon.size() + m_strName.size() +
+                              6 * (CLineWriter::kNumberRoom + 1));
+    line.Text(keyword).Number(m_nStrength).Char(' ').Number(m_nQuality).Char(' ');
+    line.Text(type).Char(' ').Text(weapon).Char(' ').Number(m_nPicture).Char(' ');
+    if (hasReserved) {
+        line.Number(m_nReserved).Char(' ');
     }
-    AppendNumber(out, m_nStrength);
-    out += ' ';
-    AppendNumber(out, m_nQuality);
-    out += ' ';
-    if (m_pType) {
-        out += m_pType->m_strType;
-    }
-    out += ' ';
-    if (m_pWeapon) {
-        out += m_pWeapon->m_strWeapon;
-    }
-    out += ' ';
-    AppendNumber(out, m_nPicture);
-    out += ' ';
-    if (m_pDatabase && m_pDatabase->m_nFormatVariant != 0) {
-        AppendNumber(out, m_nReserved);
-        out += ' ';
-    }
-    AppendNumber(out, m_nIcon);
-    out += ' ';
-    out += m_strName;
+    line.Number(m_nIcon).Char(' ').Text(m_strName);
 }
 
 double FightingCostModifier(const COobItem& item, std::int16_t quality) {
