@@ -34,8 +34,21 @@ test: build check-layers
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
 	$(MAKE) test-asan
 
+# The editor, started in sample/ (the folder of its START.INI). Without a display it says how
+# to run it under a virtual X server, and does so when xvfb-run is there.
+EDITOR     := $(abspath $(BUILD))/src/harnwick
+XVFB_RUN   := xvfb-run -a -s '-screen 0 1024x768x24'
+
 run: build
-	$(BUILD)/src/cli/harnwick-cli tree sample/SAMPLE.INF sample/SAMPLE.OOB
+	@if [ -n "$$DISPLAY" ] || [ -n "$$WAYLAND_DISPLAY" ]; then \
+	    cd sample && exec $(EDITOR); \
+	fi; \
+	echo "run: no display here. To see the editor, run it under a virtual X server:"; \
+	echo "    cd sample && $(XVFB_RUN) $(EDITOR)"; \
+	if command -v xvfb-run >/dev/null; then \
+	    echo "run: starting it so under xvfb-run (stop it with Ctrl-C)"; \
+	    cd sample && exec $(XVFB_RUN) $(EDITOR); \
+	fi
 
 bench: deps
 	cmake -S . -B $(BUILD) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=RelWithDebInfo
