@@ -149,6 +149,37 @@ int Check(CSession& session, const CCliOptions& options, std::ostream& out, std:
     return problems.empty() ? EXIT_DONE : EXIT_PROBLEMS;
 }
 
+int Report(CSession& session, const CCliOptions& options, std::ostream& err) {
+    if (int status = LoadBoth(session, options, err)) {
+        return status;
+    }
+    COobDocument& document = session.document;
+    const std::string& out = options.files[2];
+    if (options.report == "html") {
+        const int flags = (options.costs ? HTML_COSTS : 0) | (options.images ? HTML_IMAGES : 0);
+        return Written(err, document.WriteHtmlReport(out, session.tree, flags));
+    }
+    if (options.report == "cost") {
+        return Written(err, document.WriteCostReport(out, session.tree));
+    }
+    if (options.report == "leader") {
+        return Written(err, document.WriteLeaderReport(out, session.tree));
+    }
+    return Written(err, document.WriteKeyReport(out, session.tree));
+}
+
+// A game file that does not open stops the import before OUT is written.
+int Import(CSession& session, const CCliOptions& options, std::ostream& err) {
+    if (int status = LoadBoth(session, options, err)) {
+        return status;
+    }
+    const std::string& gameFile = options.files[2];
+    if (session.document.GetData(gameFile, session.tree, options.importFlags) != RESULT_DONE) {
+        return CannotOpen(err, gameFile);
+    }
+    return Written(err, session.document.Save(options.files[3], session.tree));
+}
+
 }  // namespace
 
 int RunCliCommand(const CCliOptions& options, std::ostream& out, std::ostream& err) {
@@ -159,6 +190,12 @@ int RunCliCommand(const CCliOptions& options, std::ostream& out, std::ostream& e
     }
     if (command == "check") {
         return Check(session, options, out, err);
+    }
+    if (command == "report") {
+        return Report(session, options, err);
+    }
+    if (command == "import") {
+        return Import(session, options, err);
     }
     if (int status = LoadTarget(session, options.files[0], err)) {
         return status;

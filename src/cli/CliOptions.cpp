@@ -1,5 +1,7 @@
 #include "cli/CliOptions.h"
 
+#include "model/OobDocument.h"
+
 const char* const kCliUsage =
     "Usage: harnwick-cli COMMAND FILES... [OPTIONS]\n"
     "\n"
@@ -10,6 +12,11 @@ const char* const kCliUsage =
     "       [--target-out FILE]       also write the target file (with records added) to FILE\n"
     "  target TARGET OUT              read the target file and write it back to OUT\n"
     "  check TARGET OOB               list what a designer must fix in OOB\n"
+    "  report html|cost|leader|key TARGET OOB OUT\n"
+    "       [--costs] [--images]      write a report of OOB to OUT (the options: html only)\n"
+    "  import TARGET OOB GAMEFILE OUT read the strengths left in GAMEFILE into OOB, write OUT\n"
+    "       [--missing remove|zero|skip]  entries GAMEFILE does not mention (default remove)\n"
+    "       [--empty remove|skip]     structures left without men (default remove)\n"
     "\n"
     "Options:\n"
     "  --unknown-class 1|2|3          class of unit types the target file lacks (1 infantry,\n"
@@ -24,12 +31,21 @@ namespace {
 struct CommandShape {
     const char* name;
     std::size_t files;
-    bool targetOut;
 };
 
 constexpr CommandShape kCommands[] = {
-    {"new", 2, false},    {"tree", 2, false},  {"save", 3, true},
-    {"target", 2, false}, {"check", 2, false},
+    {"new", 2}, {"tree", 2}, {"save", 3}, {"target", 2}, {"check", 2}, {"report", 3}, {"import", 4},
+};
+
+bool IsReport(const std::string& name) {
+    return name == "html" || name == "cost" || name == "leader" || name == "key";
+}
+
+// The options given, to refuse those that do not go with the command.
+struct Given {
+    bool targetOut = false;
+    bool html = false;
+    bool import = false;
 };
 
 const CommandShape* FindCommand(const std::string& name) {
@@ -41,25 +57,63 @@ const CommandShape* FindCommand(const std::string& name) {
     return nullptr;
 }
 
+// Takes the value of an option that has one.
+bool TakeValue(const std::string& arg, const std::string& value, CCliOptions& options, Given& given,
+               std::string& error) {
+    if (arg == "--target-out") {
+        options.targetOut = value;
+        given.targetOut = true;
+    } else if (arg == "--unknown-class") {
+        if (value != "1" && value != "2" && value != "3") {
+            error = "--unknown-class takes 1, 2 or 3";
+            return false;
+        }
+        options.unknownClass = value[0] - '0';
+    } else if (arg == "--missing") {
+        options.importFlags &= ~(IMPORT_REMOVE_MISSING | IMPORT_ZERO_MISSING);
+        if (value == "remove") {
+            options.importFlags |= IMPORT_REMOVE_MISSING;
+        } else if (value == "zero") {
+            options.importFlags |= IMPORT_ZERO_MISSING;
+        } else if (value != "skip") {
+            error = "--missing takes remove, zero or skip";
+            return false;
+        }
+        given.import = true;
+    } else {  // --empty
+        options.importFlags &= ~IMPORT_REMOVE_EMPTY;
+        if (value == "remove") {
+            options.importFlags |= IMPORT_REMOVE_EMPTY;
+        } else if (value != "skip") {
+            error = "--empty takes remove or skip";
+            return false;
+        }
+        given.import = true;
+    }
+    return true;
+}
+
 }  // namespace
 
 bool ParseCliOptions(int argc, char** argv, CCliOptions& options, std::string& error) {
+    Given given;
+    // The import dialog's first choices: remove what the game file does not mention, and remove
+    // structures left empty.
+    options.importFlags = IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY;
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
         if (arg == "--help" || arg == "-h") {
             options.help = true;
-        } else if (arg == "--unknown-class" || arg == "--target-out") {
+        } else if (arg == "--costs" || arg == "--images") {
+            (arg == "--costs" ? options.costs : options.images) = true;
+            given.html = true;
+        } else if (arg == "--unknown-class" || arg == "--target-out" || arg == "--missing" ||
+                   arg == "--empty") {
             if (i + 1 >= argc) {
                 error = arg + " needs a value";
                 return false;
             }
-            const std::string value = argv[++i];
-            if (arg == "--target-out") {
-                options.targetOut = value;
-            } else if (value == "1" || value == "2" || value == "3") {
-                options.unknownClass = value[0] - '0';
-            } else {
-                error = "--unknown-class takes 1, 2 or 3";
+            if (!TakeValue(arg, argv[++i], options, given, error)) {
                 return false;
             }
         } else if (arg.size() > 1 && arg[0] == '-' && arg[1] == '-') {
@@ -67,6 +121,8 @@ bool ParseCliOptions(int argc, char** argv, CCliOptions& options, std::string& e
             return false;
         } else if (options.command.empty()) {
             options.command = arg;
+        } else if (options.command == "report" && options.report.empty()) {
+            options.report = arg;
         } else {
             options.files.push_back(arg);
         }
@@ -83,8 +139,20 @@ bool ParseCliOptions(int argc, char** argv, CCliOptions& options, std::string& e
         error = options.command + " takes " + std::to_string(shape->files) + " files";
         return false;
     }
-    if (!options.targetOut.empty() && !shape->targetOut) {
+    if (options.command == "report" && !IsReport(options.report)) {
+        error = "report takes html, cost, leader or key";
+        return false;
+    }
+    if (given.targetOut && options.command != "save") {
         error = "--target-out goes with save only";
+        return false;
+    }
+    if (given.html && options.report != "html") {
+        error = "--costs and --images go with report html only";
+        return false;
+    }
+    if (given.import && options.command != "import") {
+        error = "--missing and --empty go with import only";
         return false;
     }
     return true;

@@ -15,9 +15,13 @@ enum : int {
 
 struct CCliOptions {
     std::string command;
+    std::string report;  // html, cost, leader or key, for the report command
     std::vector<std::string> files;
     int unknownClass = 1;
     std::string targetOut;
+    bool costs = false;   // --costs: the HTML report's cost values
+    bool images = false;  // --images: the HTML report's images
+    int importFlags = 0;  // IMPORT_* flags, from --missing and --empty
     bool help = false;
 };
 

@@ -4,12 +4,18 @@
 
 #include "model/OobItem.h"
 
+struct CContainerTotals;
+
 class CStructureItem : public COobItem {
 public:
     CStructureItem() { m_nType = TYPE_STRUCTURE; }
 
     void ReadFields(CItemLineReader& reader) override;
     void ToText(std::string& out) const override;
+    void ToHtml(std::string& out, const CTreeStore& tree, HTREEITEM entry,
+                int flags) const override;
+    // The fragment with the subtree's totals already known (the report sums them in one pass).
+    void AppendHtml(std::string& out, const CContainerTotals& totals, int flags) const;
     double Cost() const override;
     double Aggregate(const CTreeStore& tree, HTREEITEM entry, int category,
                      int measure) const override;

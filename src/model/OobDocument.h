@@ -23,6 +23,13 @@ enum : std::int16_t {
     READ_OTHER = -1,    // an item line, or a line passed over
 };
 
+// Game-file import flags.
+enum : int {
+    IMPORT_REMOVE_MISSING = 1,  // remove units, leaders and supplies the file does not mention
+    IMPORT_ZERO_MISSING = 2,    // set their strength or supply points to 0
+    IMPORT_REMOVE_EMPTY = 4,    // remove structures whose subtree holds no men
+};
+
 // What the line reader keeps from one line to the next.
 struct COobReaderState {
     static constexpr int kLevels = 10;  // the top level and eight nested blocks, plus the caller's
@@ -57,8 +64,25 @@ public:
                                       COobReaderState& state);
     virtual void NumberLeaders(const CTreeStore& tree);
 
+    // The reports: each writes its file whole (RESULT_DONE or RESULT_CANNOT_WRITE).
+    virtual int WriteHtmlReport(const std::string& path, const CTreeStore& tree, int flags);
+    virtual int WriteLeaderReport(const std::string& path, const CTreeStore& tree);
+    virtual int WriteCostReport(const std::string& path, const CTreeStore& tree);
+    virtual int WriteKeyReport(const std::string& path, const CTreeStore& tree);
+
+    // Brings the tree up to date from a game file (IMPORT_* flags); RESULT_DONE, or
+    // RESULT_CANNOT_OPEN with the tree untouched.
+    virtual int GetData(const std::string& path, CTreeStore& tree, int flags);
+    // The entry a position key (2.1.3. or 2.1.3) names; none when it names no entry.
+    virtual HTREEITEM FindItemByKey(const std::string& key, const CTreeStore& tree);
+
     // The bytes Save writes.
     std::string ToText(const CTreeStore& tree);
+    // The bytes of each report.
+    std::string HtmlReport(const CTreeStore& tree, int flags);
+    std::string LeaderReport(const CTreeStore& tree);
+    std::string CostReport(const CTreeStore& tree);
+    std::string KeyReport(const CTreeStore& tree);
 
     // Told of every line of three characters or more that the reader passes over: no kind's
     // keyword begins it, its kind names no item class, or it is nested deeper than the parents

@@ -9,6 +9,8 @@ public:
 
     void ReadFields(CItemLineReader& reader) override;
     void ToText(std::string& out) const override;
+    void ToHtml(std::string& out, const CTreeStore& tree, HTREEITEM entry,
+                int flags) const override;
     double Cost() const override;
     double Men() const override;
     std::unique_ptr<COobItem> Clone() const override {
@@ -25,6 +27,8 @@ public:
 
     void ReadFields(CItemLineReader& reader) override;
     void ToText(std::string& out) const override;
+    void ToHtml(std::string& out, const CTreeStore& tree, HTREEITEM entry,
+                int flags) const override;
     double Cost() const override;
     double Men() const override;
     std::unique_ptr<COobItem> Clone() const override { return std::make_unique<CDepotItem>(*this); }

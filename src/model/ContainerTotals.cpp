@@ -1,0 +1,99 @@
+#include "model/ContainerTotals.h"
+
+#include "gamedata/GameRecords.h"
+#include "model/HtmlText.h"
+#include "model/OobItem.h"
+#include "model/TextLines.h"
+#include "model/TreeWalk.h"
+
+namespace {
+
+int ClassOf(const COobItem& item) {
+    return item.m_pBaseType ? item.m_pBaseType->ClassCode() : 0;
+}
+
+void Add(CContainerTotals& totals, int itemClass, double men, double cost) {
+    switch (itemClass) {
+        case 1:
+            totals.infantry += men;
+            break;
+        case 2:
+            totals.cavalry += men;
+            break;
+        case 3:
+            totals.artillery += men;
+            break;
+        default:
+            break;
+    }
+    totals.cost += cost;
+}
+
+}  // namespace
+
+CContainerTotals TotalsOf(const CTreeStore& tree, HTREEITEM entry) {
+    const COobItem& item = *ItemOf(tree, entry);
+    return {item.Aggregate(tree, entry, CATEGORY_INFANTRY, MEASURE_MEN),
+            item.Aggregate(tree, entry, CATEGORY_CAVALRY, MEASURE_MEN),
+            item.Aggregate(tree, entry, CATEGORY_ARTILLERY, MEASURE_MEN),
+            item.Aggregate(tree, entry, CATEGORY_ALL, MEASURE_COST)};
+}
+
+std::vector<CContainerTotals> AllTotals(const CTreeStore& tree) {
+    std::vector<CContainerTotals> totals;
+    totals.reserve(tree.GetCount());
+    struct Open {
+        std::size_t index;
+        int depth;
+    };
+    std::vector<Open> open;  // the entry's ancestors still being summed, and itself
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        while (!open.empty() && open.back().depth >= walk.Depth()) {
+            open.pop_back();
+        }
+        const COobItem* item = ItemOf(tree, walk.Current());
+        open.push_back({totals.size(), walk.Depth()});
+        totals.emplace_back();
+        if (!item) {
+            continue;
+        }
+        const int itemClass = ClassOf(*item);
+        const double men = itemClass >= 1 && itemClass <= 3 ? item->Men() : 0.0;
+        const double cost = item->Cost();
+        for (const Open& ancestor : open) {
+            Add(totals[ancestor.index], itemClass, men, cost);
+        }
+    }
+    return totals;
+}
+
+void AppendContainerHtml(std::string& out, const std::string& name, const CContainerTotals& totals,
+                         int flags) {
+    out += "<BIG><B><U>";
+    AppendEscaped(out, name);
+    out += "</U></B></BIG> <SMALL>(";
+    bool first = true;
+    auto part = [&out, &first](const char* label, double value) {
+        if (!first) {
+            out += ", ";
+        }
+        first = false;
+        out += label;
+        out += " <B>";
+        out += Format("%g", value);
+        out += "</B>";
+    };
+    if (totals.infantry != 0.0) {
+        part("Infantry", totals.infantry);
+    }
+    if (totals.cavalry != 0.0) {
+        part("Cavalry", totals.cavalry);
+    }
+    if (totals.artillery != 0.0) {
+        part("Artillery", totals.artillery);
+    }
+    if (flags & HTML_COSTS) {
+        part("Cost", totals.cost);
+    }
+    out += ")</SMALL>";
+}

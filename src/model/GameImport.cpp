@@ -1,0 +1,159 @@
+// Bringing the order of battle up to date from the game's own files: the strengths the units
+// still have after a battle, and which entries the game no longer mentions.
+#include <fstream>
+
+#include "model/ContainerItems.h"
+#include "model/LineTokenizer.h"
+#include "model/OobDocument.h"
+#include "model/Result.h"
+#include "model/SupplyItem.h"
+#include "model/TextLines.h"
+#include "model/TreeWalk.h"
+#include "model/UnitItem.h"
+
+namespace {
+
+constexpr int kHeaderLines = 9;
+constexpr int kMaxKeyNumbers = 10;
+
+bool IsCounted(const COobItem& item) {
+    return item.m_nType == TYPE_UNIT || item.m_nType == TYPE_LEADER || item.m_nType == TYPE_SUPPLY;
+}
+
+// The strength of a unit or the supply points of a supply; none for other kinds.
+std::int16_t* StrengthOf(COobItem& item) {
+    if (item.m_nType == TYPE_UNIT) {
+        return &static_cast<CUnitItem&>(item).m_nStrength;
+    }
+    if (item.m_nType == TYPE_SUPPLY) {
+        return &static_cast<CSupplyItem&>(item).m_nSupply;
+    }
+    return nullptr;
+}
+
+void MarkSeen(const CTreeStore& tree, HTREEITEM entry) {
+    if (COobItem* item = entry ? ItemOf(tree, entry) : nullptr) {
+        item->m_nSeen = 1;
+    }
+}
+
+// Record 1: the strength left to one entry. The first mention replaces what the item held
+// before the import; further mentions add to it.
+void ApplyStrength(COobItem& item, std::int16_t added) {
+    if (std::int16_t* strength = StrengthOf(item)) {
+        if (item.m_nSeen == 0) {
+            item.m_nSeen = 1;
+            *strength = 0;
+        }
+        *strength = static_cast<std::int16_t>(*strength + added);
+    } else if (item.m_nType == TYPE_LEADER) {
+        item.m_nSeen = 1;
+    }
+}
+
+}  // namespace
+
+// Keys that name no entry (a number beyond the last sibling, a level that does not exist) give
+// none: the import then changes nothing for that line, and the tree stays as it was.
+HTREEITEM COobDocument::FindItemByKey(const std::string& key, const CTreeStore& tree) {
+    CLineTokenizer tokenizer;
+    tokenizer.SetDelimiter('.');
+    tokenizer.SetLine(key);
+    std::vector<std::int16_t> numbers;
+    while (numbers.size() < kMaxKeyNumbers && tokenizer.Position() < tokenizer.Line().size()) {
+        numbers.push_back(StoreTruncated<std::int16_t>(tokenizer.ReadNumber()));
+        ++tokenizer.Position();
+    }
+    HTREEITEM entry = tree.GetRootItem();
+    for (std::size_t i = 0; i < numbers.size() && entry; ++i) {
+        for (int step = 1; step < numbers[i] && entry; ++step) {
+            entry = tree.GetNextSiblingItem(entry);
+        }
+        if (entry && i + 1 < numbers.size() && numbers[i + 1] > 0) {
+            entry = tree.GetChildItem(entry);
+        }
+    }
+    return entry;
+}
+
+int COobDocument::GetData(const std::string& path, CTreeStore& tree, int flags) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        return RESULT_CANNOT_OPEN;
+    }
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        if (COobItem* item = ItemOf(tree, walk.Current())) {
+            item->m_nSeen = 0;
+        }
+    }
+    std::string line;
+    for (int i = 0; i < kHeaderLines; ++i) {
+        ReadTextLine(in, line);
+    }
+    CLineTokenizer tokenizer;
+    tokenizer.SetDelimiter(' ');
+    for (bool records = true; records;) {
+        if (ReadTextLine(in, line) == LineRead::End) {
+            break;
+        }
+        tokenizer.SetLine(line);
+        const int record = StoreTruncated<std::int16_t>(tokenizer.ReadNumber());
+        ++tokenizer.Position();
+        if (record == 1) {
+            const HTREEITEM entry = FindItemByKey(std::string(tokenizer.ReadField()), tree);
+            ++tokenizer.Position();
+            for (int unused = 0; unused < 2; ++unused) {
+                tokenizer.ReadNumber();
+                ++tokenizer.Position();
+            }
+            const auto added = StoreTruncated<std::int16_t>(tokenizer.ReadNumber());
+            if (COobItem* item = entry ? ItemOf(tree, entry) : nullptr) {
+                ApplyStrength(*item, added);
+            }
+        } else if (record == 2) {
+            tokenizer.SeekField(10);
+            const int count = StoreTruncated<std::int16_t>(tokenizer.ReadNumber());
+            for (int i = 0; i < count && ReadTextLine(in, line) != LineRead::End; ++i) {
+                MarkSeen(tree, FindItemByKey(line, tree));
+            }
+        } else {
+            records = false;
+        }
+    }
+
+    if (flags & (IMPORT_REMOVE_MISSING | IMPORT_ZERO_MISSING)) {
+        for (CTreeWalk walk(tree, nullptr); !walk.Done();) {
+            const HTREEITEM entry = walk.Current();
+            COobItem* item = ItemOf(tree, entry);
+            const bool missing = item && IsCounted(*item) && item->m_nSeen == 0;
+            if (missing && (flags & IMPORT_REMOVE_MISSING)) {
+                // Step past everything the entry holds before it goes: a damaged file can give
+                // a unit children, and they go with it.
+                walk.StepOver();
+                tree.DeleteItem(entry);
+                continue;
+            }
+            if (missing && (flags & IMPORT_ZERO_MISSING)) {
+                if (std::int16_t* strength = StrengthOf(*item)) {
+                    *strength = 0;
+                }
+            }
+            walk.Step();
+        }
+    }
+
+    if (flags & IMPORT_REMOVE_EMPTY) {
+        for (CTreeWalk walk(tree, nullptr); !walk.Done();) {
+            const HTREEITEM entry = walk.Current();
+            const COobItem* item = ItemOf(tree, entry);
+            if (item && item->m_nType == TYPE_STRUCTURE &&
+                item->Aggregate(tree, entry, CATEGORY_ALL, MEASURE_MEN) == 0.0) {
+                walk.StepOver();
+                tree.DeleteItem(entry);
+                continue;
+            }
+            walk.Step();
+        }
+    }
+    return RESULT_DONE;
+}

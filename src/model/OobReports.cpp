@@ -1,0 +1,199 @@
+// The four reports of the order of battle: an HTML page and the cost, leader and key listings.
+#include <cstdio>
+#include <vector>
+
+#include "gamedata/GameRecords.h"
+#include "model/ContainerItems.h"
+#include "model/ContainerTotals.h"
+#include "model/FileWriter.h"
+#include "model/HtmlText.h"
+#include "model/LeaderItem.h"
+#include "model/OobDocument.h"
+#include "model/TextLines.h"
+#include "model/TreeWalk.h"
+
+namespace {
+
+std::string_view KindText(const COobItem* item) {
+    return item && item->m_pKind ? std::string_view(item->m_pKind->m_strName) : std::string_view();
+}
+
+// printf's "%-<width>s": the text, then blanks up to width; a longer text is not cut.
+void AppendPadded(std::string& out, std::string_view text, std::size_t width) {
+    out += text;
+    if (text.size() < width) {
+        out.append(width - text.size(), ' ');
+    }
+}
+
+// Four blanks per depth level, then the name: the indented last column of the text reports.
+void AppendIndentedName(std::string& out, int depth, const COobItem* item) {
+    out.append(static_cast<std::size_t>(4 * depth), ' ');
+    if (item) {
+        out += item->m_strName;
+    }
+    out += kLineEnd;
+}
+
+void AppendLine(std::string& out, std::string_view line) {
+    out += line;
+    out += kLineEnd;
+}
+
+void AppendRule(std::string& out, std::size_t stars) {
+    out.append(stars, '*');
+    out += kLineEnd;
+}
+
+bool IsDepot(const COobItem* item) {
+    return item && item->m_nType == TYPE_DEPOT;
+}
+bool IsArmy(const COobItem* item) {
+    return item && item->m_nType == TYPE_ARMY;
+}
+
+}  // namespace
+
+std::string COobDocument::HtmlReport(const CTreeStore& tree, int flags) {
+    std::string out;
+    AppendLine(out, "<HTML><HEAD><TITLE>Order of Battle</TITLE></HEAD>");
+    AppendLine(out, "<BODY><TT><P ALIGN=center>HTML Report created by Harnwick</P>");
+    AppendLine(out, "<DL>");
+    const std::vector<CContainerTotals> totals = AllTotals(tree);
+    std::size_t index = 0;
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); ++index) {
+        const HTREEITEM entry = walk.Current();
+        const COobItem* item = ItemOf(tree, entry);
+        if (item) {
+            if (IsContainer(*item)) {
+                static_cast<const CStructureItem*>(item)->AppendHtml(out, totals[index], flags);
+            } else {
+                item->ToHtml(out, tree, entry, flags);
+            }
+        }
+        out += kLineEnd;
+        if (item && IsContainer(*item)) {
+            AppendLine(out, "<DL>");
+            if (entry->ChildCount() == 0) {
+                AppendLine(out, "</DL>");
+            }
+        }
+        const int result = walk.Step();
+        for (int i = result; i < 0; ++i) {
+            AppendLine(out, "</DL>");
+        }
+    }
+    AppendLine(out, "</DL></TT></BODY></HTML>");
+    return out;
+}
+
+std::string COobDocument::CostReport(const CTreeStore& tree) {
+    std::string out;
+    AppendLine(out, "Cost Report created by Harnwick");
+    const std::vector<CContainerTotals> totals = AllTotals(tree);
+    std::size_t index = 0;
+    char number[400];  // room for any double in "%10.2f" form
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step(), ++index) {
+        const COobItem* item = ItemOf(tree, walk.Current());
+        if (IsArmy(item)) {
+            AppendLine(out, "");
+            AppendRule(out, 32);
+            AppendLine(out, "       Cost : Type        : Name");
+            AppendRule(out, 32);
+        }
+        if (IsDepot(item)) {
+            break;
+        }
+        // A container's figure is its subtree's total cost, another item's its own cost:
+        // what Aggregate gives for each.
+        const double cost = !item ? 0.0 : IsContainer(*item) ? totals[index].cost : item->Cost();
+        std::snprintf(number, sizeof number, " %10.2f : ", cost);
+        out += number;
+        AppendPadded(out, KindText(item), 11);
+        out += " : ";
+        AppendIndentedName(out, walk.Depth(), item);
+    }
+    return out;
+}
+
+std::string COobDocument::LeaderReport(const CTreeStore& tree) {
+    std::string out;
+    AppendLine(out, "Leader Report created by Harnwick");
+    int n = 0;
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        const COobItem* item = ItemOf(tree, walk.Current());
+        if (IsArmy(item)) {
+            AppendLine(out, "");
+            AppendLine(out, "Army : " + item->m_strName);
+            AppendRule(out, 45);
+            AppendLine(out, " No  : (X,Y)   : Cm : Ld : Commands    : Name");
+            AppendRule(out, 45);
+        }
+        if (IsDepot(item)) {
+            break;
+        }
+        if (!item || item->m_nType != TYPE_LEADER) {
+            continue;
+        }
+        const auto* leader = static_cast<const CLeaderItem*>(item);
+        const char command =
+            CommandLetter(leader->m_pType ? std::string_view(leader->m_pType->m_strType) : "");
+        out += Format(" %-3d : (%-2d,%-2d) : %c  : %c  : ", n, n % 12 + 1, n / 12 + 1, command,
+                      GradeLetter(leader->m_nLeadership));
+        // A leader at the top level commands no echelon: its column stays blank.
+        const HTREEITEM parent = tree.GetParentItem(walk.Current());
+        AppendPadded(out, parent ? KindText(ItemOf(tree, parent)) : std::string_view(), 11);
+        out += " : ";
+        AppendIndentedName(out, walk.Depth(), item);
+        ++n;
+    }
+    return out;
+}
+
+std::string COobDocument::KeyReport(const CTreeStore& tree) {
+    std::string out;
+    AppendLine(out, "Key Report created by Harnwick");
+    // One counter per depth; the table grows with the tree, so entries deeper than ten levels
+    // (which only the editing commands can make) get keys too.
+    std::vector<int> counters;
+    std::string key;
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        const COobItem* item = ItemOf(tree, walk.Current());
+        if (IsArmy(item)) {
+            AppendLine(out, "");
+            AppendRule(out, 37);
+            AppendLine(out, " Key            : Type        :  Name");
+            AppendRule(out, 37);
+        }
+        const std::size_t depth = static_cast<std::size_t>(walk.Depth());
+        counters.resize(depth + 1, 0);
+        ++counters[depth];
+        key.clear();
+        for (int counter : counters) {
+            AppendNumber(key, counter);
+            key += '.';
+        }
+        AppendPadded(out, key, 15);
+        out += " : ";
+        AppendPadded(out, KindText(item), 11);
+        out += " : ";
+        AppendIndentedName(out, walk.Depth(), item);
+    }
+    return out;
+}
+
+int COobDocument::WriteHtmlReport(const std::string& path, const CTreeStore& tree, int flags) {
+    return ReplaceFile(path, HtmlReport(tree, flags));
+}
+
+int COobDocument::WriteCostReport(const std::string& path, const CTreeStore& tree) {
+    return ReplaceFile(path, CostReport(tree));
+}
+
+int COobDocument::WriteLeaderReport(const std::string& path, const CTreeStore& tree) {
+    return ReplaceFile(path, LeaderReport(tree));
+}
+
+int COobDocument::WriteKeyReport(const std::string& path, const CTreeStore& tree) {
+    return ReplaceFile(path, KeyReport(tree));
+}
