@@ -1,0 +1,145 @@
+#include <gtest/gtest.h>
+
+#include "ReportTree.h"
+#include "TempFolder.h"
+#include "model/Result.h"
+#include "model/SupplyItem.h"
+#include "model/UnitItem.h"
+
+namespace {
+
+class GameImport : public CReportTree {
+protected:
+    void SetUp() override {
+        CReportTree::SetUp();
+        // 1. North: 1.1 Chief, 1.2 First (1.2.1 Line, 1.2.2 Guns, 1.2.3 Wagons),
+        //    1.3 Outer (1.3.1 Inner). 2. South: 2.1 Staff (2.1.1 Aide, 2.1.2 Foot).
+        Build({"A North",
+               "Begin",
+               "L 4 3 0 Chief",
+               "C First",
+               "Begin",
+               "U 8 2 Fus Musket 0 0 Line",
+               "U 6 2 Gun Cannon 0 0 Guns",
+               "S 9 0 Wagons",
+               "End",
+               "C Outer",
+               "Begin",
+               "C Inner",
+               "Begin",
+               "End",
+               "End",
+               "End",
+               "A South",
+               "Begin",
+               "C Staff",
+               "Begin",
+               "L 4 3 0 Aide",
+               "U 5 2 Fus Musket 0 0 Foot"});
+    }
+
+    // Imports a game file made of nine header lines and the given record lines.
+    int Import(const std::string& records, int flags) {
+        const std::string header = "1 9.9 0 0 9\n2\n3\n4\n5\n6\n7\n8\n9\n";
+        WriteBytes(m_folder / "game.btl", header + records);
+        return m_doc.GetData(m_folder / "game.btl", m_tree, flags);
+    }
+
+    std::int16_t Strength(const std::string& name) const {
+        COobItem* item = ItemOf(m_tree, Find(name));
+        if (item->m_nType == TYPE_SUPPLY) {
+            return static_cast<CSupplyItem*>(item)->m_nSupply;
+        }
+        return static_cast<CUnitItem*>(item)->m_nStrength;
+    }
+
+    std::string Key(const std::string& key) const {
+        const HTREEITEM entry = const_cast<COobDocument&>(m_doc).FindItemByKey(key, m_tree);
+        return entry ? m_tree.GetItemText(entry) : "none";
+    }
+
+    CTempFolder m_folder;
+};
+
+TEST_F(GameImport, KeysNameEntriesByPosition) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"1", "North"},
+        {"1.", "North"},
+        {"2.", "South"},
+        {"1.2", "First"},
+        {"1.2.3.", "Wagons"},
+        {"1.3.1", "Inner"},
+        {"2.1.2.", "Foot"},
+        {"", "North"},
+        {"3.", "none"},
+        {"1.9", "none"},
+        {"1.1.1", "none"},
+        {"1.2.9.4", "none"},
+        // A 0 moves nowhere and enters no child; the number after it enters the level below.
+        {"1.0.2", "First"},
+    };
+    for (const auto& [key, name] : cases) {
+        EXPECT_EQ(Key(key), name) << key;
+    }
+}
+
+TEST_F(GameImport, RecordOneReplacesThenAddsStrength) {
+    ASSERT_EQ(Import("1 1.2.1. 7 8 5\n1 1.2.1 0 0 7\n1 1.2.3. 0 0 4\n1 2.1.2 0 0 -3\n0\n", 0),
+              RESULT_DONE);
+    EXPECT_EQ(Strength("Line"), 12);   // 8 before: the first mention replaces, the second adds
+    EXPECT_EQ(Strength("Wagons"), 4);  // supply points likewise
+    EXPECT_EQ(Strength("Foot"), -3);
+    EXPECT_EQ(Strength("Guns"), 6);  // not mentioned, and no flag: kept
+}
+
+TEST_F(GameImport, UnmentionedEntriesUnderEachChoice) {
+    const std::string records = "1 1.2.1. 0 0 5\n2 0 0 0 0 0 0 0 0 0 1\n2.1.1.\n1 2.1.2 0 0 3\n";
+    struct Case {
+        int flags;
+        const char* shape;
+        std::int16_t wagons;
+    } cases[] = {
+        {0, "North(Chief First(Line Guns Wagons) Outer(Inner)) South(Staff(Aide Foot))", 9},
+        {IMPORT_ZERO_MISSING,
+         "North(Chief First(Line Guns Wagons) Outer(Inner)) "
+         "South(Staff(Aide Foot))",
+         0},
+        {IMPORT_REMOVE_MISSING, "North(First(Line) Outer(Inner)) South(Staff(Aide Foot))", -1},
+        // Empty structures go, and an empty structure holding only an empty one goes with it.
+        {IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY, "North(First(Line)) South(Staff(Aide Foot))",
+         -1},
+    };
+    for (const Case& c : cases) {
+        m_tree.DeleteAllItems();
+        SetUp();
+        ASSERT_EQ(Import(records, c.flags), RESULT_DONE);
+        EXPECT_EQ(Shape(), c.shape) << c.flags;
+        if (c.wagons >= 0) {
+            EXPECT_EQ(Strength("Wagons"), c.wagons) << c.flags;
+            EXPECT_EQ(Strength("Guns"), c.flags & IMPORT_ZERO_MISSING ? 0 : 6);
+        }
+    }
+}
+
+TEST_F(GameImport, StructureKeptByItsLeaderAlone) {
+    // Only the leader of Staff is listed: its units go, and one man (the leader) keeps it.
+    ASSERT_EQ(Import("2 0 0 0 0 0 0 0 0 0 1\n2.1.1\n", IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY),
+              RESULT_DONE);
+    EXPECT_EQ(Shape(), "North South(Staff(Aide))");
+}
+
+TEST_F(GameImport, RecordsEndAtAnotherNumberAndBadKeysChangeNothing) {
+    ASSERT_EQ(Import("1 9.9 0 0 5\n1 1.2.1 0 0 4\n\n1 1.2.2 0 0 1\n", 0), RESULT_DONE);
+    EXPECT_EQ(Strength("Line"), 4);
+    EXPECT_EQ(Strength("Guns"), 6);  // after the empty line: not read
+    // The header's nine lines are skipped even when they look like records (see Import).
+    EXPECT_EQ(Shape(), "North(Chief First(Line Guns Wagons) Outer(Inner)) South(Staff(Aide Foot))");
+}
+
+TEST_F(GameImport, AMissingFileLeavesTheTreeUntouched) {
+    EXPECT_EQ(m_doc.GetData(m_folder / "none.btl", m_tree, IMPORT_REMOVE_MISSING),
+              RESULT_CANNOT_OPEN);
+    EXPECT_EQ(Shape(), "North(Chief First(Line Guns Wagons) Outer(Inner)) South(Staff(Aide Foot))");
+}
+
+}  // namespace

@@ -1,0 +1,162 @@
+#include <gtest/gtest.h>
+
+#include "ReportTree.h"
+#include "TempFolder.h"
+#include "model/ContainerItems.h"
+#include "model/Result.h"
+#include "model/TextLines.h"
+
+namespace {
+
+using Reports = CReportTree;
+
+TEST_F(Reports, KeysCountSiblingsPerLevel) {
+    Build({"A North", "Begin", "C First", "Begin", "U 8 2 Fus Musket 0 0 One",
+           "U 8 2 Fus Musket 0 0 Two", "End", "C Second", "Begin", "End", "End", "A South"});
+    const std::vector<std::string> lines = Lines(m_doc.KeyReport(m_tree));
+    const std::vector<std::string> expected = {
+        "Key Report created by Harnwick",
+        "",
+        std::string(37, '*'),
+        " Key            : Type        :  Name",
+        std::string(37, '*'),
+        "1.              : Army        : North",
+        "1.1.            : Corps       :     First",
+        "1.1.1.          : Infantry    :         One",
+        "1.1.2.          : Infantry    :         Two",
+        "1.2.            : Corps       :     Second",
+        "",
+        std::string(37, '*'),
+        " Key            : Type        :  Name",
+        std::string(37, '*'),
+        "2.              : Army        : South",
+    };
+    EXPECT_EQ(lines, expected);
+}
+
+TEST_F(Reports, CostReportLinesAndTheDepotCut) {
+    Build({"A North", "Begin", "C First", "Begin", "U 8 2 Fus Musket 0 0 Line", "End", "End",
+           "DEP 6 0 Stores", "A South", "Begin", "L 4 3 0 Late", "End"});
+    const std::vector<std::string> lines = Lines(m_doc.CostReport(m_tree));
+    ASSERT_EQ(lines.size(), 8u);
+    EXPECT_EQ(lines[0], "Cost Report created by Harnwick");
+    EXPECT_EQ(lines[3], "       Cost : Type        : Name");
+    // The army's and corps' figures are their subtrees' totals (each echelon costs 1 itself).
+    EXPECT_EQ(lines[5], "     122.00 : Army        : North");
+    EXPECT_EQ(lines[6], "     121.00 : Corps       :     First");
+    EXPECT_EQ(lines[7], "     120.00 : Infantry    :         Line");
+    // The depot ends the cost and leader reports, but not the key and HTML reports.
+    EXPECT_EQ(Lines(m_doc.LeaderReport(m_tree)).size(), 6u);
+    EXPECT_NE(m_doc.KeyReport(m_tree).find("South"), std::string::npos);
+    EXPECT_NE(m_doc.HtmlReport(m_tree, 0).find("South"), std::string::npos);
+}
+
+TEST_F(Reports, LeaderReportNumbersPlacesAndGrades) {
+    std::vector<std::string> lines = {"L 4 6 0 Alone", "A North", "Begin", "C First", "Begin"};
+    for (int i = 0; i < 12; ++i) {
+        lines.push_back("L 4 " + std::to_string(i % 8) + " 0 Leader" + std::to_string(i));
+    }
+    lines.push_back("L x 3 0 Odd");
+    CLineStore list;
+    for (const auto& line : lines) {
+        list.AddString(line);
+    }
+    m_doc.PasteFromList(m_tree, TVI_ROOT, TVI_LAST, list);
+    const std::vector<std::string> report = Lines(m_doc.LeaderReport(m_tree));
+    ASSERT_EQ(report.size(), 20u);
+    // A leader at the top level commands no echelon: the column is blank.
+    EXPECT_EQ(report[1], " 0   : (1 ,1 ) : C  : A  :             : Alone");
+    EXPECT_EQ(report[3], "Army : North");
+    EXPECT_EQ(report[7], " 1   : (2 ,1 ) : C  : G  : Corps       :         Leader0");
+    // Leadership 7 has no letter.
+    EXPECT_EQ(report[14], " 8   : (9 ,1 ) : C  : ?  : Corps       :         Leader7");
+    // The thirteenth leader (n = 12) is placed at (1,2); a command type that is no digit has
+    // no letter.
+    EXPECT_EQ(report[19], " 13  : (2 ,2 ) : ?  : D  : Corps       :         Odd");
+    EXPECT_EQ(report[18], " 12  : (1 ,2 ) : C  : D  : Corps       :         Leader11");
+}
+
+TEST_F(Reports, HtmlListsNestAndShowTotals) {
+    Build({"A North & <South>", "Begin", "C First", "Begin", "U 8 2 Fus Musket 0 0 Line",
+           "U 3 -2 Gun Cannon 0 0 Battery", "End", "C Empty", "Begin", "End", "S 6 0 Wagons", "End",
+           "DEP 6 1 Stores", "GB 2 3 Cannon 0 River boat", "A Quiet", "Begin", "C Last", "Begin",
+           "L 4 3 0 Chief"});
+    const std::vector<std::string> plain = Lines(m_doc.HtmlReport(m_tree, 0));
+    const std::vector<std::string> expected = {
+        "<HTML><HEAD><TITLE>Order of Battle</TITLE></HEAD>",
+        "<BODY><TT><P ALIGN=center>HTML Report created by Harnwick</P>",
+        "<DL>",
+        "<DD><BIG><B><U>North &amp; &lt;South&gt;</U></B></BIG> <SMALL>(Infantry <B>40</B>, "
+        "Artillery <B>6</B>)</SMALL>",
+        "<DL>",
+        "<DD><BIG><B><U>First</U></B></BIG> <SMALL>(Infantry <B>40</B>, Artillery "
+        "<B>6</B>)</SMALL>",
+        "<DL>",
+        "<DD>Line <SMALL>(Line foot <B>40</B>, Q <B>2</B>)</SMALL>",
+        "<DD>Battery <SMALL>(Guns <B>6</B>, Q <B>-2</B>)</SMALL>",
+        "</DL>",
+        "<DD><BIG><B><U>Empty</U></B></BIG> <SMALL>()</SMALL>",
+        "<DL>",
+        "</DL>",
+        "<DD>Wagons <SMALL>(Supply <B>6</B>)</SMALL>",
+        "</DL>",
+        "<DD>Stores <SMALL>(Depot <B>6</B>)</SMALL>",
+        "<DD>River boat <SMALL>(Gunboat <B>2</B>, Q <B>3</B>)</SMALL>",
+        "<DD><BIG><B><U>Quiet</U></B></BIG> <SMALL>()</SMALL>",
+        "<DL>",
+        "<DD><BIG><B><U>Last</U></B></BIG> <SMALL>()</SMALL>",
+        "<DL>",
+        "<DD><I>Chief</I> <SMALL>(<B>C</B>, <B>D</B>)</SMALL>",
+        // The lists still open at the end of the tree are not closed one by one.
+        "</DL></TT></BODY></HTML>",
+    };
+    EXPECT_EQ(plain, expected);
+    const std::string full = m_doc.HtmlReport(m_tree, HTML_COSTS | HTML_IMAGES);
+    EXPECT_NE(full.find("<DD><IMG SRC=symbol_army.jpg> <BIG>"), std::string::npos);
+    EXPECT_NE(full.find("<DD><IMG SRC=symbol_corps.jpg> <BIG><B><U>First"), std::string::npos);
+    EXPECT_NE(full.find("<DD><IMG SRC=symbol_unit.jpg> Line <SMALL>(Line foot <B>40</B>, Q "
+                        "<B>2</B>, Cost <B>120</B>)</SMALL>"),
+              std::string::npos);
+    EXPECT_NE(full.find("<DD><IMG SRC=symbol_leader.jpg> <I>Chief</I>"), std::string::npos);
+    EXPECT_NE(full.find("<DD>Stores <SMALL>(Depot <B>6</B>)</SMALL>"), std::string::npos)
+        << "a depot has no image and no cost";
+    const std::string images = m_doc.HtmlReport(m_tree, HTML_IMAGES);
+    EXPECT_EQ(images.find("Cost"), std::string::npos);
+    EXPECT_EQ(m_doc.HtmlReport(m_tree, HTML_COSTS).find("<IMG"), std::string::npos);
+}
+
+// The report sums every container's totals in one pass; each line must be what the item's own
+// ToHtml, which asks Aggregate, gives.
+TEST(ReportsOnTheSample, OnePassTotalsAgreeWithAggregate) {
+    CGameDatabase db;
+    ASSERT_EQ(db.Load(std::string(HW_SAMPLE_DIR) + "/valdoria.inf"), RESULT_DONE);
+    COobDocument doc;
+    doc.m_pDatabase = &db;
+    CTreeStore tree;
+    ASSERT_EQ(doc.LoadTree(std::string(HW_SAMPLE_DIR) + "/valdoria.oob", tree), RESULT_DONE);
+    const int flags = HTML_COSTS | HTML_IMAGES;
+    const std::string report = doc.HtmlReport(tree, flags);
+    std::size_t checked = 0;
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        std::string line;
+        ItemOf(tree, walk.Current())->ToHtml(line, tree, walk.Current(), flags);
+        EXPECT_NE(report.find(line + "\r\n"), std::string::npos) << line;
+        ++checked;
+    }
+    EXPECT_EQ(checked, tree.GetCount());
+    const std::string cost = doc.CostReport(tree);
+    const HTREEITEM army = tree.GetRootItem();
+    const double total = ItemOf(tree, army)->Aggregate(tree, army, CATEGORY_ALL, MEASURE_COST);
+    EXPECT_NE(cost.find(Format(" %10.2f : ", total)), std::string::npos);
+}
+
+TEST_F(Reports, WritersReplaceTheirFiles) {
+    Build({"A North", "Begin", "L 4 3 0 Chief"});
+    CTempFolder folder;
+    EXPECT_EQ(m_doc.WriteKeyReport(folder / "key.txt", m_tree), RESULT_DONE);
+    EXPECT_EQ(ReadBytes(folder / "key.txt"), m_doc.KeyReport(m_tree));
+    EXPECT_EQ(m_doc.WriteHtmlReport(folder / "no/such/folder.html", m_tree, 0),
+              RESULT_CANNOT_WRITE);
+}
+
+}  // namespace
