@@ -1,7 +1,5 @@
 #include "platform/Dialog.h"
 
-#include <algorithm>
-
 #include "platform/DataExchange.h"
 
 namespace {
@@ -71,9 +69,6 @@ const CWnd* CDialog::GetDlgItem(int id) const {
 }
 
 int CDialog::MessageBox(const std::string& text, const std::string& caption, unsigned type) {
-    if (m_pWindow) {
-        m_pWindow->Redraw();
-    }
     return Backend().MessageBox(this, text, caption, type);
 }
 

@@ -229,4 +229,21 @@ TEST_F(QtEventsTest, TheTreeFollowsTheStoreAndARightClickKeepsTheSelection) {
     });
     EXPECT_EQ(dlg.log, (std::vector<std::string>{"kill 101", "right click"}));
 }
+// Drawing reaches the screen with the colours it was given, and a resized control follows.
+TEST_F(QtEventsTest, PaintingAndMovingShowOnTheWindow) {
+    const CPixelImage strip{4,
+                            2,
+                            {0xFF000000, 0xFF000000, 0xFFB3262E, 0xFFB3262E,  //
+                             0xFF000000, 0xFF000000, 0xFFB3262E, 0xFFB3262E}};
+    dlg.paint = [&](CPaintDC& dc) { dc.BitBlt(0, 0, 2, 2, strip, 2, 0); };
+    Run([&] {
+        QWidget* client = Widget<QLabel>(106)->parentWidget();
+        const QImage shot = client->grab().toImage();
+        EXPECT_EQ(shot.pixel(1, 1), 0xFFB3262Eu);
+        CWnd* label = dlg.GetDlgItem(106);
+        label->MoveWindow(CRect{5, 6, 55, 26});
+        dlg.RedrawWindow();
+        EXPECT_EQ(Widget<QLabel>(106)->geometry(), QRect(5, 6, 50, 20));
+    });
+}
 }  // namespace

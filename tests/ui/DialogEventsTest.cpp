@@ -6,6 +6,8 @@
 #include "TestDialog.h"
 #include "platform/FileDialog.h"
 
+#include <array>
+
 namespace {
 using K = ControlKind;
 
@@ -95,6 +97,17 @@ TEST_F(DialogEventsTest, EnterPressesTheHiddenDefaultButtonThenTheFocusedButton)
     dlg.DoModal();
     EXPECT_EQ(dlg.log,
               (std::vector<std::string>{"click 1000", "kill 101", "click 200", "OnCancel"}));
+}
+
+TEST_F(DialogEventsTest, EnterWithShiftIsSeenByTheHandler) {
+    dlg.OnClicked(1000, [this] { dlg.Log(GetKeyState(VK_SHIFT) < 0 ? "shift" : "no shift"); });
+    ui.OnDialog(901, [](CHeadlessUser& user) {
+        user.Enter(true);
+        user.Enter();
+        user.Escape();
+    });
+    dlg.DoModal();
+    EXPECT_EQ(dlg.log, (std::vector<std::string>{"shift", "no shift", "OnCancel"}));
 }
 
 TEST_F(DialogEventsTest, EnterWithoutADefaultButtonIsOk) {
@@ -301,6 +314,47 @@ TEST_F(DialogEventsTest, FileChoosersTakeTheScriptedPathWithTheDefaultExtension)
     ASSERT_EQ(shown.filters.size(), 2u);
     EXPECT_EQ(shown.filters[1].description, "Text Files (*.txt)");
     EXPECT_EQ(shown.filters[1].pattern, "*.txt");
+}
+
+// The structure summary's pattern: bars sized from a frame's client area, moved to the back.
+TEST_F(DialogEventsTest, AFrameGivesItsClientSizeAndAControlCanBeMovedAndResized) {
+    const CDialogTemplate bars{.id = 903,
+                               .caption = "Bars",
+                               .cx = 200,
+                               .cy = 80,
+                               .controls = {{1072, K::Frame, 10, 10, 100, 16, "", STYLE_SUNKEN},
+                                            {1066, K::Bar, 12, 12, 10, 12, "", STYLE_HIDDEN}}};
+    CTestDialog summary(bars);
+    ui.OnDialog(903, [&](CHeadlessUser& user) {
+        const CRect client = summary.GetDlgItem(1072)->GetClientRect();
+        EXPECT_EQ(client, (CRect{0, 0, 150 - 4, 26 - 4}));
+        CWnd* bar = summary.GetDlgItem(1066);
+        const CRect at = bar->GetWindowRect();
+        bar->MoveWindow(
+            CRect{at.left, at.top, at.left + client.Width() / 2, at.top + client.Height()});
+        bar->ShowWindow(true);
+        bar->SendToBack();
+        EXPECT_EQ(bar->GetWindowRect(), (CRect{18, 20, 18 + 73, 20 + 22}));
+        EXPECT_TRUE(user.IsVisible(1066));
+        EXPECT_EQ(bar->LoweredCount(), 1u);
+        user.Escape();
+    });
+    summary.DoModal();
+}
+
+TEST_F(DialogEventsTest, PaintingDrawsWhatTheDialogPaints) {
+    const CPixelImage strip{4, 2, std::vector<std::uint32_t>(8, 0xFF336699)};
+    dlg.paint = [&](CPaintDC& dc) { dc.BitBlt(10, 10, 2, 2, strip, 2, 0); };
+    ui.OnDialog(901, [&](CHeadlessUser& user) {
+        const auto& ops = user.Paint().Ops();
+        ASSERT_EQ(ops.size(), 1u);
+        EXPECT_EQ(ops[0].kind, CPaintOp::Kind::BitBlt);
+        EXPECT_EQ((std::array{ops[0].x, ops[0].y, ops[0].width, ops[0].srcX}),
+                  (std::array{10, 10, 2, 2}));
+        EXPECT_EQ(ops[0].image, &strip);
+        user.Escape();
+    });
+    dlg.DoModal();
 }
 
 TEST(FileFilter, SplitsIntoDescriptionAndPatternPairs) {

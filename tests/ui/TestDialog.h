@@ -17,6 +17,8 @@ public:
     std::function<void(CTestDialog&)> init;
     // The exchange the dialog runs; none by default.
     std::function<void(CDataExchange*)> exchange;
+    // Paints the client area; nothing by default.
+    std::function<void(CPaintDC&)> paint;
     // What happened, in order ("kill 101", "click 200", ...).
     std::vector<std::string> log;
 
@@ -40,6 +42,11 @@ protected:
     void DoDataExchange(CDataExchange* pDX) override {
         if (exchange) {
             exchange(pDX);
+        }
+    }
+    void OnPaint(CPaintDC& dc) override {
+        if (paint) {
+            paint(dc);
         }
     }
     void OnOK() override {
