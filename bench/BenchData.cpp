@@ -2,6 +2,10 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
+
+#include "model/OobItem.h"
+#include "model/TreeWalk.h"
 
 namespace {
 
@@ -165,4 +169,34 @@ std::string MakeBenchTarget() {
 
 std::string MakeBenchOob(std::size_t entries) {
     return COobWriter(entries).Build();
+}
+
+std::string MakeBenchGameFile(const CTreeStore& tree) {
+    std::string out;
+    for (int i = 1; i <= 9; ++i) {
+        Line(out, 0, "header line " + std::to_string(i));
+    }
+    std::vector<int> counters;
+    std::vector<std::string> leaders;
+    std::string key;
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        counters.resize(static_cast<std::size_t>(walk.Depth()) + 1, 0);
+        ++counters.back();
+        key.clear();
+        for (int counter : counters) {
+            key += std::to_string(counter) + ".";
+        }
+        const std::uint8_t type = ItemOf(tree, walk.Current())->m_nType;
+        if (type == 0 || type == 5) {
+            Line(out, 0, "1 " + key + " 3 4 " + std::to_string(5 + counters.back() % 20));
+        } else if (type == 4) {
+            leaders.push_back(key);
+        }
+    }
+    Line(out, 0, "2 0 0 0 0 0 0 0 0 0 " + std::to_string(leaders.size()));
+    for (const std::string& leader : leaders) {
+        Line(out, 0, leader);
+    }
+    Line(out, 0, "0");
+    return out;
 }

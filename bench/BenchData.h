@@ -6,9 +6,15 @@
 #include <cstddef>
 #include <string>
 
+#include "platform/TreeStore.h"
+
 // The target file's bytes.
 std::string MakeBenchTarget();
 
 // The bytes of an order of battle of about entries entries (exactly entries, or a few more to
 // finish the last brigade).
 std::string MakeBenchOob(std::size_t entries);
+
+// A game file that names every unit and supply of tree by its key (record 1) and lists every
+// leader (record 2).
+std::string MakeBenchGameFile(const CTreeStore& tree);

@@ -14,6 +14,7 @@
 #include "BenchTimer.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
+#include "model/OobItem.h"
 #include "model/Result.h"
 
 namespace {
@@ -56,6 +57,7 @@ struct Figures {
     std::size_t entries = 0;
     double scan = 0, load = 0, rawWrite = 0, save = 0;
     double bytesPerEntry = 0;
+    double html = 0, cost = 0, leader = 0, key = 0, import = 0;
 };
 
 Figures Measure(const fs::path& folder, CGameDatabase& database, std::size_t size) {
@@ -81,6 +83,22 @@ Figures Measure(const fs::path& folder, CGameDatabase& database, std::size_t siz
     const std::string outPath = (folder / "out.oob").string();
     f.rawWrite = BestSeconds(kRuns, [&] { RawWrite(outPath, bytes); });
     f.save = BestSeconds(kRuns, [&] { document.Save(outPath, *tree); });
+
+    const std::string reportPath = (folder / "report.txt").string();
+    f.html = BestSeconds(
+        kRuns, [&] { document.WriteHtmlReport(reportPath, *tree, HTML_COSTS | HTML_IMAGES); });
+    f.cost = BestSeconds(kRuns, [&] { document.WriteCostReport(reportPath, *tree); });
+    f.leader = BestSeconds(kRuns, [&] { document.WriteLeaderReport(reportPath, *tree); });
+    f.key = BestSeconds(kRuns, [&] { document.WriteKeyReport(reportPath, *tree); });
+
+    const std::string gamePath = (folder / "game.btl").string();
+    WriteBytes(gamePath, MakeBenchGameFile(*tree));
+    f.import = BestSeconds(kRuns, [&] {
+        document.GetData(gamePath, *tree, IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY);
+    });
+    if (tree->GetCount() != f.entries) {
+        std::printf("the import removed entries: the game file should name them all\n");
+    }
     return f;
 }
 
@@ -116,6 +134,16 @@ int main() {
                     f.save / f.rawWrite, f.bytesPerEntry);
         std::fflush(stdout);
     }
+    std::printf("\n%10s %10s %10s %10s %10s %10s   (ns per entry; ratios to save, load)\n",
+                "entries", "html", "cost", "leader", "key", "import");
+    for (const Figures& f : all) {
+        std::printf("%10zu %10.1f %10.1f %10.1f %10.1f %10.1f\n", f.entries,
+                    PerEntry(f.html, f.entries), PerEntry(f.cost, f.entries),
+                    PerEntry(f.leader, f.entries), PerEntry(f.key, f.entries),
+                    PerEntry(f.import, f.entries));
+        std::printf("%10s %10.2f %10.2f %10.2f %10.2f %10.2f\n", "", f.html / f.save,
+                    f.cost / f.save, f.leader / f.save, f.key / f.save, f.import / f.load);
+    }
     const Figures& small = all.front();
     const Figures& large = all.back();
     std::printf("\nTargets at %zu entries:\n", large.entries);
@@ -124,6 +152,11 @@ int main() {
     Report("memory bytes per entry / 100", large.bytesPerEntry / 100.0, 3.0);
     Report("load ns per entry, 10^6 / 10^4",
            PerEntry(large.load, large.entries) / PerEntry(small.load, small.entries), 1.5);
+    Report("HTML report / Save", large.html / large.save, 3.0);
+    Report("cost report / Save", large.cost / large.save, 3.0);
+    Report("leader report / Save", large.leader / large.save, 3.0);
+    Report("key report / Save", large.key / large.save, 3.0);
+    Report("import / LoadTree", large.import / large.load, 3.0);
     Report("save ns per entry, 10^6 / 10^4",
            PerEntry(large.save, large.entries) / PerEntry(small.save, small.entries), 1.5);
     fs::remove_all(folder);

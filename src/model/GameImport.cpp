@@ -64,10 +64,14 @@ HTREEITEM COobDocument::FindItemByKey(const std::string& key, const CTreeStore& 
         numbers.push_back(StoreTruncated<std::int16_t>(tokenizer.ReadNumber()));
         ++tokenizer.Position();
     }
+    // Moving k - 1 siblings on is a jump by rows: a game file names every unit, and a level may
+    // hold hundreds of entries.
     HTREEITEM entry = tree.GetRootItem();
     for (std::size_t i = 0; i < numbers.size() && entry; ++i) {
-        for (int step = 1; step < numbers[i] && entry; ++step) {
-            entry = tree.GetNextSiblingItem(entry);
+        if (numbers[i] > 1) {
+            const CTreeEntry& parent = *entry->Parent();
+            const std::size_t row = entry->Row() + static_cast<std::size_t>(numbers[i] - 1);
+            entry = row < parent.ChildCount() ? parent.Child(row) : nullptr;
         }
         if (entry && i + 1 < numbers.size() && numbers[i + 1] > 0) {
             entry = tree.GetChildItem(entry);
