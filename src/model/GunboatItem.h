@@ -22,4 +22,6 @@ public:
     std::int16_t m_nStrength = 0;
     std::int16_t m_nQuality = 0;  // negative: fanatic
     std::int16_t m_nPicture = 0;
+    // The weapon the line named when the game data lacks it, written back in its place.
+    std::string m_strMissingWeapon;
 };

@@ -8,7 +8,9 @@
 #include "model/TextLines.h"
 
 void CLeaderItem::ReadFields(CItemLineReader& reader) {
-    m_pType = FindType(reader.Word());
+    const std::string_view typeName = reader.Word();
+    m_pType = FindType(typeName);
+    m_strMissingType = m_pType ? std::string_view() : typeName;
     m_pBaseType = FindBaseType(m_pType);
     m_nLeadership = reader.Number<std::int16_t>();
     m_nThird = reader.Number<std::int16_t>();
@@ -18,7 +20,7 @@ void CLeaderItem::ReadFields(CItemLineReader& reader) {
 
 void CLeaderItem::ToText(std::string& out) const {
     const std::string_view keyword = m_pKind ? m_pKind->m_strKeyword : std::string_view();
-    const std::string_view type = m_pType ? m_pType->m_strType : std::string_view();
+    const std::string_view type = m_pType ? m_pType->m_strType : m_strMissingType;
     CLineWriter line(
         out, keyword.size() + type.size() + m_strName.size() + 3 * (CLineWriter::kNumberRoom + 1));
     line.Text(keyword).Text(type).Char(' ').Number(m_nLeadership).Char(' ').Number(m_nThird);

@@ -23,4 +23,7 @@ public:
     std::int16_t m_nLeadership = 0;
     std::int16_t m_nThird = 0;
     std::int32_t m_nLeaderNumber = 0;  // not in the line: set in tree order by NumberLeaders
+    // The command type the line named when the game data lacks it: the leader cannot be costed,
+    // but its line is written back as it was read rather than without the name.
+    std::string m_strMissingType;
 };

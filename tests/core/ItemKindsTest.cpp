@@ -1,0 +1,305 @@
+// The seven item kinds: their lines read into fields and written back, their costs and men, what
+// the unit reader does about records the game data lacks, and the containers' totals.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "SmallGameData.h"
+#include "gamedata/GameDatabase.h"
+#include "gamedata/GameRecords.h"
+#include "model/ContainerItems.h"
+#include "model/GunboatItem.h"
+#include "model/ItemFactory.h"
+#include "model/LeaderItem.h"
+#include "model/SupplyItem.h"
+#include "model/TextLines.h"
+#include "model/UnitItem.h"
+
+namespace {
+
+std::string Text(const COobItem& item) {
+    std::string line;
+    item.ToText(line);
+    return line;
+}
+
+const char* RecordName(const std::string* name) {
+    return name ? name->c_str() : "-";
+}
+
+// The fields of an item in line order, with the record names it resolved ("-" for none) and its
+// name after a bar, so that a reader and a writer that agree on a wrong place for a field fail.
+std::string Fields(const COobItem& item) {
+    const char* type = RecordName(item.m_pType ? &item.m_pType->m_strType : nullptr);
+    const char* weapon = RecordName(item.m_pWeapon ? &item.m_pWeapon->m_strWeapon : nullptr);
+    std::string fields;
+    switch (item.m_nType) {
+        case TYPE_UNIT: {
+            const auto& u = static_cast<const CUnitItem&>(item);
+            fields = Format("%d %d %s %s %d %d %d", u.m_nStrength, u.m_nQuality, type, weapon,
+                            u.m_nPicture, u.m_nReserved, u.m_nIcon);
+            break;
+        }
+        case TYPE_LEADER: {
+            const auto& l = static_cast<const CLeaderItem&>(item);
+            fields = Format("%s %d %d %d", type, l.m_nLeadership, l.m_nThird, l.m_nLeaderNumber);
+            break;
+        }
+        case TYPE_SUPPLY: {
+            const auto& s = static_cast<const CSupplyItem&>(item);
+            fields = Format("%s %d %d", type, s.m_nSupply, s.m_nPicture);
+            break;
+        }
+        case TYPE_DEPOT: {
+            const auto& d = static_cast<const CDepotItem&>(item);
+            fields = Format("%s %d %d", type, d.m_nSupply, d.m_nNumber);
+            break;
+        }
+        case TYPE_GUNBOAT: {
+            const auto& g = static_cast<const CGunboatItem&>(item);
+            fields =
+                Format("%s %d %d %s %d", type, g.m_nStrength, g.m_nQuality, weapon, g.m_nPicture);
+            break;
+        }
+        default:
+            fields = type;
+    }
+    return fields + "|" + item.m_strName;
+}
+
+class ItemKinds : public ::testing::Test {
+protected:
+    void SetUp() override {
+        LoadSmallGameData(m_db);
+        m_db.m_pPrompts = &m_prompts;
+    }
+
+    // An item of the kind the line's keyword names, read from the line.
+    std::unique_ptr<COobItem> Read(const std::string& line) {
+        COobItem probe;
+        probe.m_pDatabase = &m_db;
+        const CKindRecord* kind = probe.FindKindForLine(line);
+        EXPECT_NE(kind, nullptr) << line;
+        std::unique_ptr<COobItem> item =
+            CreateItem(kind ? kind->TypeCode() : std::uint8_t{TYPE_ITEM});
+        if (!item) {
+            ADD_FAILURE() << "no item class for " << line;
+            return std::make_unique<COobItem>();
+        }
+        item->m_pDatabase = &m_db;
+        item->Read(line);
+        return item;
+    }
+
+    CTypeRecord* TypeAt(int index) {
+        return static_cast<CTypeRecord*>(m_db.m_Types.SeekIndex(index)->m_pPayload.get());
+    }
+
+    CGameDatabase m_db;
+    CRecordingPrompts m_prompts;
+};
+
+struct KindCase {
+    const char* line;
+    int variant;
+    std::uint8_t type;
+    const char* fields;
+    double cost;
+    double men;
+    const char* written;  // none: the line itself
+};
+
+// Costs by hand: the unit at quality -3 is 10 × 5 × 2 × ((3 − 2) × 0.1 + 0.3 + 0.2 + 1 + 0.5);
+// the leader is ((7 − 3) × 0.1 + 0.5 + 1) × 1 × 500 whatever the sign of its leadership; the
+// supply is (0.25 + 1) × 10 × 20 × 2; the gunboat 8 × 20 × 4 × ((4 − 1) × 0.05 + 0.2 + 0.2 + 1
+// + 0.5); the containers (modifier + 1) × 1 × 250.
+const KindCase kKindCases[] = {
+    {"U 10 -3 Foot Musket 1 2 Old Guard", 0, TYPE_UNIT, "10 -3 Foot Musket 1 0 2|Old Guard", 210,
+     50, nullptr},
+    {"U 10 3 Foot Musket 1 2 Line Foot", 0, TYPE_UNIT, "10 3 Foot Musket 1 0 2|Line Foot", 160, 50,
+     nullptr},
+    {"U 10 3 Foot Musket 1 7 2 Line Foot", 1, TYPE_UNIT, "10 3 Foot Musket 1 7 2|Line Foot", 160,
+     50, nullptr},
+    {"U 5 4 Dragoons Sabre 0 0 Hussars", 0, TYPE_UNIT, "5 4 Dragoons Sabre 0 0 0|Hussars", 72, 20,
+     nullptr},
+    {"U 2 1 FieldGun Gun6 3 0 4 Battery", 1, TYPE_UNIT, "2 1 FieldGun Gun6 3 0 4|Battery", 176, 40,
+     nullptr},
+    {"U 10 3 Foot Musket 1 2 100% Guards", 0, TYPE_UNIT, "10 3 Foot Musket 1 0 2|100% Guards", 160,
+     50, nullptr},
+    // The line is normalised first; numbers are truncated toward zero into the field's width.
+    {"\tU  70000\t-3.9 Foot  Musket 1 2 Old   Guard ", 0, TYPE_UNIT,
+     "4464 -3 Foot Musket 1 0 2|Old Guard", 4464 * 5 * 2 * 2.1, 4464 * 5,
+     "U 4464 -3 Foot Musket 1 2 Old Guard"},
+    {"L 4 7 0 Marshal Orm", 0, TYPE_LEADER, "4 7 0 0|Marshal Orm", 950, 1, nullptr},
+    {"L 4 -7 3 Marshal Orm", 0, TYPE_LEADER, "4 -7 3 0|Marshal Orm", 950, 1, nullptr},
+    {"S 20 12 Corps Train", 0, TYPE_SUPPLY, "S  20 12|Corps Train", 500, 200, nullptr},
+    {"DEP 6 4 Depot", 0, TYPE_DEPOT, "DEP  6 4|Depot", 60, 60, nullptr},
+    {"GB 8 -4 Gun12 2 Swift", 0, TYPE_GUNBOAT, "GB  8 -4 Gun12 2|Swift", 1312, 0, nullptr},
+    {"B Iron Brigade", 0, TYPE_STRUCTURE, "B |Iron Brigade", 250, 0, nullptr},
+    {"A Army of Norland", 0, TYPE_ARMY, "A |Army of Norland", 500, 0, nullptr},
+    // Records the game data lacks: cost 0, and the line is written back as it was read.
+    {"L 9 5 0 Nobody", 0, TYPE_LEADER, "- 5 0 0|Nobody", 0, 1, nullptr},
+    {"Q 5 1 Stores", 0, TYPE_SUPPLY, "- 5 1|Stores", 0, 0, nullptr},
+    {"GB 8 4 Cannon 2 Slow", 0, TYPE_GUNBOAT, "GB  8 4 - 2|Slow", 0, 0, nullptr},
+};
+
+TEST_F(ItemKinds, LinesReadIntoFieldsCostAndWriteBack) {
+    for (const KindCase& c : kKindCases) {
+        SCOPED_TRACE(c.line);
+        m_db.m_nFormatVariant = static_cast<std::uint8_t>(c.variant);
+        const auto item = Read(c.line);
+        EXPECT_EQ(item->m_nType, c.type);
+        EXPECT_EQ(Fields(*item), c.fields);
+        EXPECT_NEAR(item->Cost(), c.cost, 1e-9 * (c.cost + 1));
+        EXPECT_DOUBLE_EQ(item->Men(), c.men);
+        EXPECT_EQ(Text(*item), c.written ? c.written : c.line);
+    }
+    EXPECT_TRUE(m_prompts.m_warnings.empty());
+    EXPECT_TRUE(m_prompts.m_questions.empty());
+}
+
+TEST_F(ItemKinds, UnitReadWithoutReservedValueGainsItWhenWrittenWithIt) {
+    const auto unit = Read("U 12 5 Foot Musket 3 7 Left Wing");
+    m_db.m_nFormatVariant = 1;
+    EXPECT_EQ(Text(*unit), "U 12 5 Foot Musket 3 0 7 Left Wing");
+}
+
+TEST_F(ItemKinds, UnknownUnitTypeIsWarnedAskedForAndAddedOnce) {
+    m_prompts.m_nAnswer = 2;
+    const int types = m_db.m_Types.Count();
+    const std::string line = "U 12 5 Jaeger Rifle 3 7 Light Company";
+    const auto first = Read("  U 12  5 Jaeger\tRifle 3 7 Light Company");
+    ASSERT_EQ(m_prompts.m_warnings.size(), 2u);
+    EXPECT_EQ(m_prompts.m_warnings[0], "Entry : " + line + "\nUknown unit type : [Jaeger]");
+    EXPECT_EQ(m_prompts.m_warnings[1],
+              "Entry : " + line + "\nUknown weapon type : [Rifle] for unit type [Jaeger]");
+    EXPECT_EQ(m_prompts.m_questions, std::vector<std::string>{line});
+
+    ASSERT_EQ(m_db.m_Types.Count(), types + 1);
+    CTypeRecord* type = TypeAt(0);
+    EXPECT_EQ(first->m_pType, type);
+    EXPECT_EQ(type->m_strType, "Jaeger");
+    EXPECT_EQ(type->m_strName, "Unit type Jaeger");
+    EXPECT_EQ(type->ClassCode(), 2);
+    EXPECT_EQ(type->m_dCostModifier, 0.0);
+    ASSERT_NE(first->m_pBaseType, nullptr);
+    EXPECT_EQ(first->m_pBaseType->ClassCode(), 2);  // the cavalry base type
+    EXPECT_EQ(Text(*first), line);
+
+    const auto second = Read("U 4 4 Jaeger Rifle 0 0 Second Company");
+    EXPECT_EQ(second->m_pType, type);
+    EXPECT_EQ(second->m_pWeapon, first->m_pWeapon);
+    EXPECT_EQ(m_prompts.m_warnings.size(), 2u);
+    EXPECT_EQ(m_prompts.m_questions.size(), 1u);
+    EXPECT_EQ(m_db.m_Types.Count(), types + 1);
+}
+
+TEST_F(ItemKinds, UnitClassAnswerOutsideTheUnitClassesMeansInfantry) {
+    for (int answer : {0, 4, 7, -1}) {
+        m_prompts.m_nAnswer = answer;
+        const std::string name = "New" + std::to_string(answer + 1);
+        const auto unit = Read("U 1 1 " + name + " Musket 0 0 Someone");
+        ASSERT_NE(unit->m_pType, nullptr);
+        EXPECT_EQ(unit->m_pType->ClassCode(), 1) << answer;
+    }
+}
+
+TEST_F(ItemKinds, UnknownWeaponIsWarnedAndAddedAtTheHeadOfTheTypesWeapons) {
+    const auto unit = Read("U 10 3 Foot  Pike 1 2 Pikemen");
+    EXPECT_EQ(m_prompts.m_warnings,
+              std::vector<std::string>{"Entry : U 10 3 Foot Pike 1 2 Pikemen\nUknown weapon type "
+                                       ": [Pike] for unit type [Foot]"});
+    EXPECT_TRUE(m_prompts.m_questions.empty());
+    CTypeRecord* foot = unit->m_pType;
+    ASSERT_NE(foot, nullptr);
+    EXPECT_EQ(foot->m_Weapons.Count(), 2);
+    const auto* weapon = static_cast<CWeaponRecord*>(foot->m_Weapons.Head()->m_pPayload.get());
+    EXPECT_EQ(unit->m_pWeapon, weapon);
+    EXPECT_EQ(weapon->m_strWeapon, "Pike");
+    EXPECT_EQ(weapon->m_strName, "Weapon type Pike");
+    // Quality 3 on the base 2 and the type's 0.2, the new weapon adding nothing.
+    EXPECT_NEAR(unit->Cost(), 10 * 5 * 2 * 1.3, 1e-9);
+}
+
+// Without anyone to ask, a new type is infantry and nothing is shown.
+TEST_F(ItemKinds, UnknownTypeWithoutPromptsBecomesInfantry) {
+    m_db.m_pPrompts = nullptr;
+    const auto unit = Read("U 1 1 Jaeger Rifle 0 0 Quiet");
+    ASSERT_NE(unit->m_pType, nullptr);
+    EXPECT_EQ(unit->m_pType->ClassCode(), 1);
+    EXPECT_NE(unit->m_pWeapon, nullptr);
+}
+
+// The name is the rest of the line from the first character after the keyword as the game data
+// writes it: without the keyword's trailing blank the name begins with one.
+TEST_F(ItemKinds, StructureNameStartsRightAfterTheKeyword) {
+    auto* brigade = static_cast<CKindRecord*>(m_db.m_Kinds.SeekIndex(1)->m_pPayload.get());
+    ASSERT_EQ(brigade->m_strKeyword, "B ");
+    EXPECT_EQ(Read("B Iron Brigade")->m_strName, "Iron Brigade");
+    brigade->m_strKeyword = "B";
+    const auto item = Read("B Iron Brigade");
+    EXPECT_EQ(item->m_strName, " Iron Brigade");
+    EXPECT_EQ(item->m_pType, nullptr);  // no type is named "B"
+    EXPECT_EQ(Text(*item), "B Iron Brigade");
+}
+
+class Aggregates : public ItemKinds {
+protected:
+    HTREEITEM Add(const std::string& line, HTREEITEM parent = TVI_ROOT) {
+        return m_tree.InsertItem(Read(line), parent, TVI_LAST);
+    }
+    double Sum(HTREEITEM entry, int category, int measure) {
+        return ItemOf(m_tree, entry)->Aggregate(m_tree, entry, category, measure);
+    }
+
+    CTreeStore m_tree;
+};
+
+TEST_F(Aggregates, CategoriesAndMeasuresOverASubtree) {
+    HTREEITEM army = Add("A Army of Norland");  // 500
+    Add("L 4 7 0 Marshal Orm", army);           // 950, 1 man
+    HTREEITEM brigade = Add("B Iron Brigade", army);
+    Add("U 10 3 Foot Musket 1 2 Line Foot", brigade);         // 160, 50 men
+    Add("U 10 -3 Foot Musket 1 2 Old Guard", brigade);        // 210, 50 men
+    Add("U 5 4 Dragoons Sabre 0 0 Hussars", brigade);         // 72, 20 men
+    Add("U 2 1 FieldGun Gun6 3 4 Battery", brigade);          // 176, 40 men
+    Add("S 20 12 Corps Train", army);                         // 500, 200 men
+    Add("DEP 6 4 Depot", army);                               // 60, 60 men
+    Add("GB 8 -4 Gun12 2 Swift", army);                       // 1312, artillery class
+    HTREEITEM empty = Add("B Empty Brigade", army);           // 250
+    HTREEITEM outside = Add("U 10 3 Foot Musket 1 2 Apart");  // not in the army
+
+    struct Case {
+        int category;
+        double cost, count, men;
+    };
+    const Case cases[] = {
+        {CATEGORY_ALL, 500 + 950 + 250 + 160 + 210 + 72 + 176 + 500 + 60 + 1312 + 250, 11, 421},
+        {CATEGORY_INFANTRY, 370, 2, 100},
+        {CATEGORY_CAVALRY, 72, 1, 20},
+        {CATEGORY_ARTILLERY, 176 + 1312, 2, 40},
+        {CATEGORY_SUPPLY, 560, 2, 260},  // category 4 is class 5
+        {CATEGORY_LEADERS, 950, 1, 1},   // category 5 is class 4
+        {6, 0, 0, 0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.category);
+        EXPECT_NEAR(Sum(army, c.category, MEASURE_COST), c.cost, 1e-9 * c.cost);
+        EXPECT_DOUBLE_EQ(Sum(army, c.category, MEASURE_COUNT), c.count);
+        EXPECT_DOUBLE_EQ(Sum(army, c.category, MEASURE_MEN), c.men);
+        EXPECT_EQ(Sum(army, c.category, 3), 0.0);
+    }
+    EXPECT_NEAR(Sum(brigade, CATEGORY_ALL, MEASURE_COST), 250 + 160 + 210 + 72 + 176, 1e-9);
+    EXPECT_DOUBLE_EQ(Sum(brigade, CATEGORY_ALL, MEASURE_COUNT), 5);
+    EXPECT_DOUBLE_EQ(Sum(empty, CATEGORY_ALL, MEASURE_COUNT), 1);
+    EXPECT_DOUBLE_EQ(Sum(empty, CATEGORY_ALL, MEASURE_MEN), 0);
+    EXPECT_DOUBLE_EQ(Sum(empty, CATEGORY_ALL, MEASURE_COST), 250);
+    // A leaf gives its own cost whatever it is asked.
+    EXPECT_DOUBLE_EQ(Sum(outside, CATEGORY_CAVALRY, MEASURE_MEN), 160);
+    // With no entry an army totals the whole tree.
+    EXPECT_DOUBLE_EQ(ItemOf(m_tree, army)->Aggregate(m_tree, nullptr, CATEGORY_ALL, MEASURE_COUNT),
+                     12);
+}
+
+}  // namespace

@@ -1,0 +1,338 @@
+// The order-of-battle document: files, template blocks and the copy buffer written from the tree
+// and read back into it, the skeleton of a new order of battle, and what the reader makes of
+// damaged input.
+#include "model/OobDocument.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "SmallGameData.h"
+#include "TempFolder.h"
+#include "TestTrees.h"
+#include "gamedata/GameRecords.h"
+#include "model/LeaderItem.h"
+#include "model/Result.h"
+#include "model/SupplyItem.h"
+
+namespace {
+
+// An army with a childless brigade and a brigade that is its last child, a depot, and a last
+// top-level brigade whose blocks the file leaves open.
+const char* const kGolden =
+    "3\n"
+    "A Army of Norland\n"
+    "\tBegin\n"
+    "\tL 4 7 0 Marshal Orm\n"
+    "\tB Empty Brigade\n"
+    "\t\tBegin\n"
+    "\t\tEnd\n"
+    "\tB Iron Brigade\n"
+    "\t\tBegin\n"
+    "\t\tL 1 5 0 Colonel Ash\n"
+    "\t\tU 10 3 Foot Musket 1 2 1st Foot\n"
+    "\t\tEnd\n"
+    "\tEnd\n"
+    "DEP 6 4 Depot\n"
+    "B Last Brigade\n"
+    "\tBegin\n"
+    "\tL 1 3 0 Major Fen\n"
+    "\tU 5 4 Dragoons Sabre 0 0 Hussars\n"
+    "\tB Inner Brigade\n"
+    "\t\tBegin\n"
+    "\t\tU 2 1 FieldGun Gun6 3 4 Battery\n";
+
+const char* const kGoldenShape =
+    "Army of Norland(Marshal Orm Empty Brigade Iron Brigade(Colonel Ash 1st Foot)) Depot "
+    "Last Brigade(Major Fen Hussars Inner Brigade(Battery))";
+
+const std::string kUnit = "U 1 1 Foot Musket 0 0 ";
+
+std::string CrLf(const std::string& text) {
+    std::string out;
+    for (char c : text) {
+        out += c == '\n' ? std::string("\r\n") : std::string(1, c);
+    }
+    return out;
+}
+
+// A document that remembers the lines its reader passed over, with their line numbers.
+class CRecordingDocument : public COobDocument {
+public:
+    void LinePassedOver(const std::string& line) override {
+        m_passedOver.push_back(std::to_string(LineNumber()) + ":" + line);
+    }
+    std::vector<std::string> m_passedOver;
+};
+
+class OobDocument : public ::testing::Test {
+protected:
+    void SetUp() override {
+        LoadSmallGameData(m_db);
+        m_db.m_pPrompts = &m_prompts;
+        m_doc.m_pDatabase = &m_db;
+    }
+
+    // Writes text to a file of the temporary folder and gives its path.
+    std::string File(const std::string& name, const std::string& text) {
+        WriteBytes(m_folder / name, text);
+        return m_folder / name;
+    }
+    void Load(const std::string& text) {
+        ASSERT_EQ(m_doc.LoadTree(File("in.oob", text), m_tree), RESULT_DONE);
+    }
+    // The first entry labelled label, in tree order.
+    HTREEITEM Find(const std::string& label, HTREEITEM parent = TVI_ROOT) {
+        for (HTREEITEM e = m_tree.GetChildItem(parent); e; e = m_tree.GetNextSiblingItem(e)) {
+            if (m_tree.GetItemText(e) == label) {
+                return e;
+            }
+            if (HTREEITEM found = Find(label, e)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+    std::string Subtree(HTREEITEM start) {
+        std::string out;
+        EXPECT_EQ(m_doc.WriteSubtree(out, m_tree, start), RESULT_DONE);
+        return out;
+    }
+
+    CTempFolder m_folder;
+    CGameDatabase m_db;
+    CRecordingPrompts m_prompts;
+    CRecordingDocument m_doc;
+    CTreeStore m_tree;
+};
+
+// The file ends inside two open blocks; the reader closes them at its end.
+TEST_F(OobDocument, SaveAndLoadGiveTheSameTreeAndBytes) {
+    const std::string golden = CrLf(kGolden);
+    Load(golden);
+    EXPECT_EQ(Shape(m_tree), kGoldenShape);
+    EXPECT_EQ(m_tree.GetSelectedItem(), m_tree.GetRootItem());
+    EXPECT_EQ(m_doc.ToText(m_tree), golden);
+
+    const std::string saved = m_folder / "saved.oob";
+    ASSERT_EQ(m_doc.Save(saved, m_tree), RESULT_DONE);
+    EXPECT_EQ(m_doc.m_strName, saved);
+    EXPECT_EQ(ReadBytes(saved), golden);
+    CTreeStore again;
+    ASSERT_EQ(m_doc.LoadTree(saved, again), RESULT_DONE);
+    EXPECT_EQ(Shape(again), kGoldenShape);
+    EXPECT_TRUE(m_doc.m_passedOver.empty());
+    EXPECT_TRUE(m_prompts.m_warnings.empty());
+}
+
+TEST_F(OobDocument, BareLineFeedsReadAndCarriageReturnsAreWritten) {
+    Load(kGolden);
+    EXPECT_EQ(Shape(m_tree), kGoldenShape);
+    EXPECT_EQ(m_doc.ToText(m_tree), CrLf(kGolden));
+}
+
+// A last line without a line break is never read, by the file reader or the template reader.
+TEST_F(OobDocument, LastLineWithoutLineBreakIsLost) {
+    const std::string text = kUnit + "Kept\r\n" + kUnit + "Lost";
+    Load("3\r\n" + text);
+    EXPECT_EQ(Shape(m_tree), "Kept");
+    CTreeStore inserted;
+    ASSERT_EQ(m_doc.InsertTemplate(File("t.tpl", text), inserted, TVI_ROOT, TVI_LAST, 0),
+              RESULT_DONE);
+    EXPECT_EQ(Shape(inserted), "Kept");
+}
+
+// Block lines are recognised on the normalised line only when they are the whole line.
+TEST_F(OobDocument, BeginIsAWholeLineAndAnythingMoreIsAnItemLine) {
+    Load("3\nA Army\n\tBegin  \n\tL 4 7 0 Marshal Orm\nBegin x\n\t" + kUnit + "Foot\n");
+    EXPECT_EQ(Shape(m_tree), "Army(Marshal Orm Foot)");
+    EXPECT_EQ(m_doc.m_passedOver, std::vector<std::string>{"5:Begin x"});
+}
+
+TEST_F(OobDocument, LinesOfNoItemClassArePassedOverAndReported) {
+    Load("3\nX 1 2 Stray\n" + kUnit + "Kept\nab\nY Other\nZed unknown\n\n");
+    EXPECT_EQ(Shape(m_tree), "Kept");
+    EXPECT_EQ(m_doc.m_passedOver,
+              (std::vector<std::string>{"2:X 1 2 Stray", "5:Y Other", "6:Zed unknown"}));
+}
+
+class Templates : public OobDocument {
+protected:
+    void SetUp() override {
+        OobDocument::SetUp();
+        m_strTwoBlocks =
+            File("two.tpl", "B First Brigade\r\n\tBegin\r\n\t" + kUnit +
+                                "First Foot\r\n\tEnd\r\n</T>\r\nS 20 12 Second Train\r\n</T>\r\n");
+        Load("3\nA P\n\tBegin\n\t" + kUnit + "W\n\t" + kUnit + "X\n\t" + kUnit + "Y\n");
+        m_hParent = Find("P");
+    }
+    std::string Insert(const std::string& path, int ordinal, HTREEITEM after = TVI_LAST) {
+        EXPECT_EQ(m_doc.InsertTemplate(path, m_tree, m_hParent, after, ordinal), RESULT_DONE);
+        return Shape(m_tree);
+    }
+
+    std::string m_strTwoBlocks;
+    HTREEITEM m_hParent = nullptr;
+};
+
+TEST_F(Templates, OrdinalChoosesTheBlock) {
+    EXPECT_EQ(Insert(m_strTwoBlocks, 1), "P(W X Y Second Train)");
+    EXPECT_EQ(Insert(m_strTwoBlocks, 0, TVI_FIRST),
+              "P(First Brigade(First Foot) W X Y Second Train)");
+    EXPECT_EQ(Insert(m_strTwoBlocks, 2), "P(First Brigade(First Foot) W X Y Second Train)");
+    EXPECT_EQ(m_doc.m_strName, m_folder / "in.oob");  // inserting names no file
+}
+
+TEST_F(Templates, FileWithoutEndTagIsInsertedToItsEnd) {
+    const std::string path = File("open.tpl", kUnit + "one\r\n" + kUnit + "two\r\n");
+    EXPECT_EQ(Insert(path, 0), "P(W X Y one two)");
+}
+
+// The first top-level item goes right after the given sibling, the others last.
+TEST_F(Templates, FurtherTopLevelItemsGoLast) {
+    const std::string path = File("pair.tpl", kUnit + "one\r\n" + kUnit + "two\r\n</T>\r\n");
+    EXPECT_EQ(Insert(path, 0, Find("X")), "P(W X one Y two)");
+}
+
+TEST_F(Templates, MissingFileChangesNothing) {
+    EXPECT_EQ(m_doc.InsertTemplate(m_folder / "none.tpl", m_tree, m_hParent, TVI_LAST, 0),
+              RESULT_CANNOT_OPEN);
+    EXPECT_EQ(Shape(m_tree), "P(W X Y)");
+    CTreeStore empty;
+    EXPECT_EQ(m_doc.LoadTree(m_folder / "none.oob", m_tree), RESULT_CANNOT_OPEN);
+    EXPECT_EQ(Shape(m_tree), "P(W X Y)");
+}
+
+// An item at a level no container opened hangs under the caller's parent.
+TEST_F(Templates, ItemsUnderUnopenedLevelsHangUnderTheCallersParent) {
+    EXPECT_EQ(Insert(File("deep.tpl", "Begin\nBegin\n" + kUnit + "orphan\n"), 0),
+              "P(W X Y orphan)");
+    CTreeStore tree;
+    ASSERT_EQ(m_doc.LoadTree(File("deep.oob", "3\nA Army\nBegin\nBegin\n" + kUnit + "x\n"), tree),
+              RESULT_DONE);
+    EXPECT_EQ(Shape(tree), "Army x");
+}
+
+TEST_F(Templates, WrittenSubtreesCloseOnlyTheirOwnBlocks) {
+    Load(kGolden);
+    // The walk climbs two levels after "1st Foot"; only the brigade's own block is closed.
+    EXPECT_EQ(Subtree(Find("Iron Brigade")),
+              CrLf("B Iron Brigade\n\tBegin\n\tL 1 5 0 Colonel Ash\n\tU 10 3 Foot Musket 1 2 1st "
+                   "Foot\n\tEnd\n"));
+    EXPECT_EQ(Subtree(Find("Empty Brigade")), CrLf("B Empty Brigade\n\tBegin\n\tEnd\n"));
+    EXPECT_EQ(Subtree(Find("Inner Brigade")),
+              CrLf("B Inner Brigade\n\tBegin\n\tU 2 1 FieldGun Gun6 3 4 Battery\n"));
+    // A written subtree, saved as a template, inserts as the same subtree.
+    const std::string path = File("iron.tpl", Subtree(Find("Iron Brigade")) + "</T>\r\n");
+    EXPECT_EQ(Insert(path, 0, TVI_FIRST),
+              "P(Iron Brigade(Colonel Ash 1st Foot) W X Y) " + std::string(kGoldenShape));
+}
+
+TEST_F(OobDocument, CopyToListHoldsTheLinesWithoutTabs) {
+    Load(kGolden);
+    CLineStore list;
+    list.AddString("left over");
+    ASSERT_EQ(m_doc.CopyToList(m_tree, nullptr, list), RESULT_DONE);
+    std::string joined = "3\n";
+    for (int i = 0; i < list.GetCount(); ++i) {
+        joined += list.GetText(i) + "\n";
+    }
+    std::string untabbed;
+    for (char c : std::string(kGolden)) {
+        if (c != '\t') {
+            untabbed += c;
+        }
+    }
+    EXPECT_EQ(joined, untabbed);
+
+    m_doc.CopyToList(m_tree, Find("Iron Brigade"), list);
+    ASSERT_EQ(list.GetCount(), 5);
+    EXPECT_EQ(list.GetText(1), "Begin");
+    EXPECT_EQ(list.GetText(4), "End");
+}
+
+TEST_F(Templates, PasteBuildsNestedItemsFirstThenLast) {
+    CLineStore list;
+    for (const std::string& line : {kUnit + "a", std::string("B b"), std::string("Begin"),
+                                    kUnit + "c", std::string("End"), kUnit + "d"}) {
+        list.AddString(line);
+    }
+    ASSERT_EQ(m_doc.PasteFromList(m_tree, m_hParent, TVI_FIRST, list), RESULT_DONE);
+    EXPECT_EQ(Shape(m_tree), "P(a W X Y b(c) d)");
+}
+
+TEST_F(OobDocument, DefaultOrderOfBattleReadsBackAsArmyLeaderAndDepot) {
+    const std::string path = m_folder / "new.oob";
+    ASSERT_EQ(m_doc.CreateDefault(path), RESULT_DONE);
+    EXPECT_EQ(ReadBytes(path),
+              CrLf("3\nA Army\n\tBegin\n\tL 4 4 0 Army Leader\n\tEnd\nDEP 6 0 Depot\n"));
+    ASSERT_EQ(m_doc.LoadTree(path, m_tree), RESULT_DONE);
+    EXPECT_EQ(Shape(m_tree), "Army(Army Leader) Depot");
+    const auto* leader = static_cast<const CLeaderItem*>(ItemOf(m_tree, Find("Army Leader")));
+    ASSERT_NE(leader->m_pType, nullptr);
+    EXPECT_EQ(leader->m_pType->m_strType, "4");
+    EXPECT_EQ(leader->m_nLeadership, 4);
+    const auto* depot = static_cast<const CDepotItem*>(ItemOf(m_tree, Find("Depot")));
+    EXPECT_EQ(depot->m_nSupply, 6);
+    EXPECT_EQ(depot->m_nNumber, 0);
+    EXPECT_EQ(m_doc.CreateDefault(m_folder / "missing/new.oob"), RESULT_CANNOT_WRITE);
+}
+
+TEST_F(OobDocument, LeadersAreNumberedInTreeOrder) {
+    Load(kGolden);
+    CLineStore list;
+    list.AddString("L 1 2 0 Captain First");
+    m_doc.PasteFromList(m_tree, TVI_ROOT, TVI_FIRST, list);
+    m_doc.NumberLeaders(m_tree);
+    std::string numbers;
+    for (const char* name : {"Captain First", "Marshal Orm", "Colonel Ash", "Major Fen"}) {
+        numbers +=
+            std::to_string(static_cast<CLeaderItem*>(ItemOf(m_tree, Find(name)))->m_nLeaderNumber);
+    }
+    EXPECT_EQ(numbers, "0123");
+}
+
+// "End" with no open block closes nothing: the next block opens under the right item.
+TEST_F(OobDocument, SurplusEndClosesNothing) {
+    Load("3\n" + kUnit + "a\nEnd\nEnd\nA Army\n\tBegin\n\t" + kUnit + "b\n");
+    EXPECT_EQ(Shape(m_tree), "a Army(b)");
+}
+
+// Nesting is counted past the parents table, so the "End" lines of blocks too deep to hold
+// items still close them; the items inside are passed over.
+TEST_F(OobDocument, BlocksDeeperThanTheParentsTableAreCountedButNotFilled) {
+    std::string text = "3\n";
+    for (int i = 1; i <= 12; ++i) {
+        text += "B L" + std::to_string(i) + "\nBegin\n";
+    }
+    text += kUnit + "deep\nEnd\nEnd\nEnd\n" + kUnit + "still deep\nEnd\n" + kUnit + "nine\n";
+    for (int i = 0; i < 20; ++i) {
+        text += "End\n";
+    }
+    Load(text + kUnit + "top\n");
+    EXPECT_EQ(Shape(m_tree), "L1(L2(L3(L4(L5(L6(L7(L8(L9 nine)))))))) top");
+    EXPECT_EQ(m_doc.m_passedOver,
+              (std::vector<std::string>{"20:B L10", "22:B L11", "24:B L12", "26:" + kUnit + "deep",
+                                        "30:" + kUnit + "still deep"}));
+}
+
+// A line is cut at 254 characters; the rest of it does not spill into the next line.
+TEST_F(OobDocument, OverLongLinesAreCut) {
+    const std::string prefix = "U 10 3 Foot Musket 1 2 ";
+    const std::string text = prefix + std::string(280, 'N') + "\r\n" + prefix + "Next\r\n";
+    Load("3\r\n" + text);
+    const std::string cut = std::string(254 - prefix.size(), 'N');
+    EXPECT_EQ(Shape(m_tree), cut + " Next");
+    CTreeStore inserted;
+    m_doc.InsertTemplate(File("long.tpl", text), inserted, TVI_ROOT, TVI_LAST, 0);
+    EXPECT_EQ(Shape(inserted), cut + " Next");
+}
+
+TEST_F(OobDocument, FailedSaveKeepsTheNameAndTheOldFile) {
+    Load(kGolden);
+    EXPECT_EQ(m_doc.Save(m_folder / "missing/out.oob", m_tree), RESULT_CANNOT_WRITE);
+    EXPECT_EQ(m_doc.m_strName, m_folder / "in.oob");
+}
+
+}  // namespace
