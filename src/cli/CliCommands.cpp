@@ -28,7 +28,7 @@ public:
 
 // Everything one command works on: the database, its prompts, the document and the tree.
 struct CSession {
-    explicit CSession(const CCliOptions& options) : prompts(options.unknownClass) {
+    CSession(const CCliOptions& options, std::ostream& err) : prompts(options.unknownClass, err) {
         database.m_pPrompts = &prompts;
         document.m_pDatabase = &database;
     }
@@ -183,7 +183,7 @@ int Import(CSession& session, const CCliOptions& options, std::ostream& err) {
 }  // namespace
 
 int RunCliCommand(const CCliOptions& options, std::ostream& out, std::ostream& err) {
-    CSession session(options);
+    CSession session(options, err);
     const std::string& command = options.command;
     if (command == "tree") {
         return Tree(session, options, out, err);

@@ -1,9 +1,9 @@
 #include "cli/CliPrompts.h"
 
-#include <iostream>
+#include <ostream>
 
 void CCliPrompts::Warning(const std::string& text) {
-    std::cerr << "Warning!\n" << text << '\n';
+    m_err << "Warning!\n" << text << '\n';
     m_warnings.push_back(text);
 }
 

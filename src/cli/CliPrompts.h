@@ -3,6 +3,7 @@
 // unknown record is remembered for the check command.
 #pragma once
 
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -10,7 +11,8 @@
 
 class CCliPrompts : public CReaderPrompts {
 public:
-    explicit CCliPrompts(int unitClass) : m_nUnitClass(unitClass) {}
+    // Warnings go to err, the stream the tool reports its errors on.
+    CCliPrompts(int unitClass, std::ostream& err) : m_nUnitClass(unitClass), m_err(err) {}
 
     void Warning(const std::string& text) override;
     int AskUnitClass(const std::string& line) override;
@@ -19,5 +21,6 @@ public:
 
 private:
     int m_nUnitClass;
+    std::ostream& m_err;
     std::vector<std::string> m_warnings;
 };

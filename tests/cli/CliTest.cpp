@@ -1,0 +1,259 @@
+// harnwick-cli's commands, run in process on the sample workspace and on files written by the
+// tests, with every exit status.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "cli/CliCommands.h"
+#include "cli/CliOptions.h"
+#include "core/SmallGameData.h"
+#include "core/TempFolder.h"
+
+namespace {
+
+const std::string kSample = HW_SAMPLE_DIR "/";
+
+struct CliRun {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+// What the tool does with these arguments: the usage error, or the command's run.
+CliRun RunCli(std::vector<std::string> args) {
+    std::vector<char*> argv{const_cast<char*>("harnwick-cli")};
+    for (std::string& arg : args) {
+        argv.push_back(arg.data());
+    }
+    CCliOptions options;
+    std::string error;
+    if (!ParseCliOptions(static_cast<int>(argv.size()), argv.data(), options, error)) {
+        return {EXIT_USAGE, "", error};
+    }
+    std::ostringstream out;
+    std::ostringstream err;
+    const int status = RunCliCommand(options, out, err);
+    return {status, out.str(), err.str()};
+}
+
+class Cli : public ::testing::Test {
+protected:
+    void SetUp() override {
+        WriteBytes(m_strSmallTarget, [] {
+            CGameDatabase db;
+            LoadSmallGameData(db);
+            return db.ToText();
+        }());
+    }
+    std::string File(const std::string& name, const std::string& text) {
+        WriteBytes(m_folder / name, text);
+        return m_folder / name;
+    }
+
+    CTempFolder m_folder;
+    const std::string m_strSmallTarget = m_folder / "small.inf";
+    const std::string m_strMissing = m_folder / "missing/out";
+};
+
+TEST_F(Cli, TreeListsKeyTypeKindNameCostAndMen) {
+    const std::string oob = File("a.oob",
+                                 "3\r\nA Army of Norland\r\n\tBegin\r\n\tL 4 7 0 Marshal Orm\r\n"
+                                 "\tB Iron Brigade\r\n\t\tBegin\r\n\t\tU 10 -3 Foot Musket 1 2 Old "
+                                 "Guard\r\n\t\tEnd\r\n\tEnd\r\nDEP 6 4 Depot\r\n");
+    const CliRun run = RunCli({"tree", m_strSmallTarget, oob});
+    EXPECT_EQ(run.status, EXIT_DONE);
+    EXPECT_EQ(run.out,
+              "1.\t7\tArmy\tArmy of Norland\t500\t0\n"
+              "1.1.\t4\tLeader\tMarshal Orm\t950\t1\n"
+              "1.2.\t6\tBrigade\tIron Brigade\t250\t0\n"
+              "1.2.1.\t0\tUnit\tOld Guard\t210\t50\n"
+              "2.\t8\tDepot\tDepot\t60\t60\n");
+    EXPECT_EQ(run.err, "");
+}
+
+TEST_F(Cli, TreeOfTheSampleHasALineForEveryEntry) {
+    const CliRun run = RunCli({"tree", kSample + "valdoria.inf", kSample + "valdoria.oob"});
+    ASSERT_EQ(run.status, EXIT_DONE);
+    EXPECT_EQ(run.out.substr(0, run.out.find('\n', run.out.find('\n') + 1) + 1),
+              "1.\t7\tArmy\tRoyal Army of Valdoria\t500\t0\n"
+              "1.1.\t4\tLeader\tMarshal Aur\xe8le Ravasse\t900\t1\n");
+    std::istringstream oob(ReadBytes(kSample + "valdoria.oob"));
+    std::string line;
+    std::size_t items = 0;
+    for (std::getline(oob, line); std::getline(oob, line);) {
+        const std::size_t start = line.find_first_not_of('\t');
+        items += line.compare(start, 5, "Begin") != 0 && line.compare(start, 3, "End") != 0;
+    }
+    std::istringstream out(run.out);
+    std::size_t lines = 0;
+    while (std::getline(out, line)) {
+        ++lines;
+        EXPECT_EQ(std::count(line.begin(), line.end(), '\t'), 5) << line;
+    }
+    EXPECT_EQ(lines, items);
+}
+
+TEST_F(Cli, SaveAndTargetWriteTheSampleBackByteForByte) {
+    for (const char* name : {"valdoria.oob", "frontier.oob"}) {
+        const CliRun run =
+            RunCli({"save", kSample + "valdoria.inf", kSample + name, m_folder / name});
+        EXPECT_EQ(run.status, EXIT_DONE) << run.err;
+        EXPECT_EQ(ReadBytes(m_folder / name), ReadBytes(kSample + name)) << name;
+    }
+    const CliRun run = RunCli({"target", kSample + "valdoria.inf", m_folder / "t.inf"});
+    EXPECT_EQ(run.status, EXIT_DONE);
+    EXPECT_EQ(ReadBytes(m_folder / "t.inf"), ReadBytes(kSample + "valdoria.inf"));
+}
+
+// The records added for an unknown type and weapon are saved with the target file, with the
+// class --unknown-class gives, and the order of battle reads against it without a question.
+TEST_F(Cli, SaveWritesTheTargetWithTheRecordsAddedWhileReading) {
+    const std::string line = "U 12 5 Jaeger Rifle 3 0 7 Light Company";
+    const std::string oob = File("j.oob", "3\r\n" + line + "\r\n");
+    const std::string target = m_folder / "j.inf";
+    const CliRun run = RunCli({"save", kSample + "valdoria.inf", oob, m_folder / "out.oob",
+                               "--target-out", target, "--unknown-class", "2"});
+    ASSERT_EQ(run.status, EXIT_DONE);
+    EXPECT_EQ(run.err, "Warning!\nEntry : " + line + "\nUknown unit type : [Jaeger]\nWarning!\n" +
+                           "Entry : " + line +
+                           "\nUknown weapon type : [Rifle] for unit type [Jaeger]\n");
+    EXPECT_EQ(ReadBytes(m_folder / "out.oob"), ReadBytes(oob));
+    const std::string saved = ReadBytes(target);
+    EXPECT_NE(saved.find("</C>\r\n\t2|Jaeger|0|Unit type Jaeger|\r\n\t\tRifle|0|Weapon type "
+                         "Rifle|\r\n\t\t</W>\r\n\t1|LineInf|"),
+              std::string::npos)
+        << saved;
+    const CliRun check = RunCli({"check", target, oob});
+    EXPECT_EQ(check.status, EXIT_DONE);
+    EXPECT_EQ(check.out, "0 problems found\n");
+}
+
+TEST_F(Cli, UnknownClassDecidesTheBaseTypeOfANewUnitType) {
+    // 12 strength points at quality 5 under each class's base type of the small target file.
+    const char* expected[] = {"156\t60", "201.6\t48", "1152\t240"};
+    const std::string oob = File("j.oob", "3\r\nU 12 5 Jaeger Rifle 3 7 Light Company\r\n");
+    for (int unitClass = 1; unitClass <= 3; ++unitClass) {
+        const CliRun run =
+            RunCli({"tree", m_strSmallTarget, oob, "--unknown-class", std::to_string(unitClass)});
+        EXPECT_EQ(run.status, EXIT_DONE);
+        EXPECT_EQ(run.out,
+                  std::string("1.\t0\tUnit\tLight Company\t") + expected[unitClass - 1] + "\n");
+    }
+}
+
+TEST_F(Cli, NewWritesASkeletonThatReadsBack) {
+    const std::string out = m_folder / "new.oob";
+    ASSERT_EQ(RunCli({"new", kSample + "valdoria.inf", out}).status, EXIT_DONE);
+    EXPECT_EQ(ReadBytes(out),
+              "3\r\nA Army\r\n\tBegin\r\n\tL 4 4 0 Army Leader\r\n\tEnd\r\nDEP 6 0 Depot\r\n");
+    const CliRun tree = RunCli({"tree", kSample + "valdoria.inf", out});
+    EXPECT_EQ(tree.out,
+              "1.\t7\tArmy\tArmy\t500\t0\n1.1.\t4\tLeader\tArmy Leader\t800\t1\n"
+              "2.\t8\tDepot\tDepot\t60\t60\n");
+}
+
+TEST_F(Cli, CheckFindsNothingInTheSample) {
+    for (const char* name : {"valdoria.oob", "frontier.oob"}) {
+        const CliRun run = RunCli({"check", kSample + "valdoria.inf", kSample + name});
+        EXPECT_EQ(run.status, EXIT_DONE) << name;
+        EXPECT_EQ(run.out, "0 problems found\n") << name;
+    }
+}
+
+TEST_F(Cli, CheckListsEveryProblemAndExitsWithFour) {
+    const std::string unit = "U 12 5 Jaeger Rifle 3 7 Light Company";
+    const std::string oob = File("bad.oob", "3\nA Army of Norland\n\tBegin\n\t" + unit +
+                                                "\n\tZed unknown line\n\tL 9 5 0 Nobody\n"
+                                                "\tX 1 2 Stray\n\tEnd\n");
+    const CliRun run = RunCli({"check", m_strSmallTarget, oob});
+    EXPECT_EQ(run.status, EXIT_PROBLEMS);
+    EXPECT_EQ(run.out, "Entry : " + unit + " Uknown unit type : [Jaeger]\n" + "Entry : " + unit +
+                           " Uknown weapon type : [Rifle] for unit type [Jaeger]\n"
+                           "line 5: no item kind: Zed unknown line\n"
+                           "line 7: no item kind: X 1 2 Stray\n"
+                           "1.2. Nobody: missing record: type base-type\n"
+                           "5 problems found\n");
+}
+
+TEST_F(Cli, InputThatDoesNotOpenExitsWithOne) {
+    const std::string target = kSample + "valdoria.inf";
+    const std::string oob = kSample + "valdoria.oob";
+    const std::string none = m_folder / "none";
+    const std::vector<std::vector<std::string>> cases = {
+        {"tree", none, oob},
+        {"check", none, oob},
+        {"save", none, oob, m_folder / "o"},
+        {"new", none, m_folder / "o"},
+        {"target", none, m_folder / "o"},
+        {"tree", target, none},
+        {"check", target, none},
+        {"save", target, none, m_folder / "o"},
+    };
+    for (const auto& args : cases) {
+        const CliRun run = RunCli(args);
+        EXPECT_EQ(run.status, EXIT_CANNOT_OPEN) << args[0];
+        EXPECT_EQ(run.err, "harnwick-cli: cannot open " + none + "\n") << args[0];
+        EXPECT_EQ(run.out, "");
+    }
+    EXPECT_TRUE(m_folder.Names() == std::vector<std::string>{"small.inf"});
+}
+
+TEST_F(Cli, BadUsageExitsWithTwo) {
+    const std::vector<std::vector<std::string>> cases = {
+        {},
+        {"frob", "a", "b"},
+        {"tree", "a"},
+        {"save", "a", "b"},
+        {"tree", "a", "b", "c"},
+        {"tree", "a", "b", "--unknown-class", "7"},
+        {"tree", "a", "b", "--unknown-class"},
+        {"check", "a", "b", "--target-out", "c"},
+        {"tree", "a", "b", "--verbose"},
+    };
+    for (const auto& args : cases) {
+        const CliRun run = RunCli(args);
+        EXPECT_EQ(run.status, EXIT_USAGE) << ::testing::PrintToString(args);
+        EXPECT_NE(run.err, "");
+    }
+}
+
+TEST_F(Cli, OptionsMayStandAnywhere) {
+    std::vector<std::string> args = {
+        "harnwick-cli", "--unknown-class", "3", "save", "a", "--target-out", "t", "b", "c"};
+    std::vector<char*> argv;
+    for (std::string& arg : args) {
+        argv.push_back(arg.data());
+    }
+    CCliOptions options;
+    std::string error;
+    ASSERT_TRUE(ParseCliOptions(static_cast<int>(argv.size()), argv.data(), options, error));
+    EXPECT_EQ(options.command, "save");
+    EXPECT_EQ(options.files, (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_EQ(options.unknownClass, 3);
+    EXPECT_EQ(options.targetOut, "t");
+    CCliOptions help;
+    char* helpArgs[] = {argv[0], const_cast<char*>("--help")};
+    EXPECT_TRUE(ParseCliOptions(2, helpArgs, help, error));
+    EXPECT_TRUE(help.help);
+}
+
+TEST_F(Cli, OutputThatCannotBeWrittenExitsWithThree) {
+    const std::string target = kSample + "valdoria.inf";
+    const std::string oob = kSample + "valdoria.oob";
+    const std::vector<std::vector<std::string>> cases = {
+        {"new", target, m_strMissing},
+        {"target", target, m_strMissing},
+        {"save", target, oob, m_strMissing},
+        {"save", target, oob, m_folder / "o.oob", "--target-out", m_strMissing},
+    };
+    for (const auto& args : cases) {
+        const CliRun run = RunCli(args);
+        EXPECT_EQ(run.status, EXIT_CANNOT_WRITE) << ::testing::PrintToString(args);
+        EXPECT_EQ(run.err.rfind("harnwick-cli: cannot write " + m_strMissing, 0), 0u) << run.err;
+    }
+}
+
+}  // namespace
