@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include "gamedata/GameDatabase.h"
@@ -9,59 +10,33 @@
 
 namespace {
 
-void AddKind(CGameDatabase& db, std::uint8_t code, const char* keyword, const char* text) {
-    auto kind = std::make_unique<CKindRecord>();
-    kind->m_nCode = code;
-    kind->m_strKeyword = keyword;
-    kind->m_strName = text;
-    db.m_Kinds.PushBack(std::move(kind));
-}
+// Six empty header lines; a short keyword listed before a longer one that begins with it, two
+// leader kinds, a keyword with a trailing blank and a repeated keyword; two base types of one
+// class; two types of one name, and a weapon name repeated within a type.
+const char* const kTarget =
+    "\n\n\n\n\n\n"
+    "6|1|Div|Division|\n7|2|Division|Long division|\n4|1|L |Leader|\n"
+    "4|1|Lancer|Second leader kind|\n0|0|U |Unit|\n6|1|Div|Second Div|\n</B>\n"
+    "1|0|0|0|0|0|Line foot|\n2|0|0|0|0|0|Horse|\n1|0|0|0|0|0|Second foot|\n</C>\n"
+    "1|Fusilier|0|Fusilier|\nMusket|0|Musket|\nRifle|0|Rifle|\nMusket|0|Second musket|\n</W>\n"
+    "2|Hussar|0|Hussar|\nSabre|0|Sabre|\n</W>\n"
+    "1|Fusilier|0|Second fusilier|\n</W>\n</D>\n</E>\n\n</F>";
 
-void AddBaseType(CGameDatabase& db, std::uint8_t code, const char* text) {
-    auto base = std::make_unique<CBaseTypeRecord>();
-    base->m_nCode = code;
-    base->m_strName = text;
-    db.m_BaseTypes.PushBack(std::move(base));
-}
-
-CTypeRecord* AddType(CGameDatabase& db, std::uint8_t code, const char* name,
-                     std::initializer_list<const char*> weapons) {
-    auto type = std::make_unique<CTypeRecord>();
-    type->m_nCode = code;
-    type->m_strType = name;
-    type->m_strName = name;
-    for (const char* w : weapons) {
-        auto weapon = std::make_unique<CWeaponRecord>();
-        weapon->m_strWeapon = w;
-        weapon->m_strName = w;
-        type->m_Weapons.PushBack(std::move(weapon));
-    }
-    CTypeRecord* raw = type.get();
-    db.m_Types.PushBack(std::move(type));
-    return raw;
-}
-
-// A short keyword listed before a longer one that begins with it; two leader kinds; a keyword
-// with a trailing blank; two base types and two types of one class.
 class OobItemLookup : public ::testing::Test {
 protected:
     void SetUp() override {
-        AddKind(m_db, TYPE_STRUCTURE, "Div", "Division");
-        AddKind(m_db, TYPE_ARMY, "Division", "Long division");
-        AddKind(m_db, TYPE_LEADER, "L ", "Leader");
-        AddKind(m_db, TYPE_LEADER, "Lancer", "Second leader kind");
-        AddKind(m_db, TYPE_UNIT, "U ", "Unit");
-        AddKind(m_db, TYPE_STRUCTURE, "Div", "Second Div");
-        AddBaseType(m_db, 1, "Line foot");
-        AddBaseType(m_db, 2, "Horse");
-        AddBaseType(m_db, 1, "Second foot");
-        m_pFusilier = AddType(m_db, 1, "Fusilier", {"Musket", "Rifle", "Musket"});
-        m_pHussar = AddType(m_db, 2, "Hussar", {"Sabre"});
-        m_pSecond = AddType(m_db, 1, "Fusilier", {});
+        std::istringstream in(kTarget);
+        m_db.ReadFrom(in);
         m_item.m_pDatabase = &m_db;
+        ASSERT_EQ(m_db.m_Types.Count(), 3);
+        m_pFusilier = static_cast<CTypeRecord*>(m_db.m_Types.SeekIndex(0)->m_pPayload.get());
+        m_pHussar = static_cast<CTypeRecord*>(m_db.m_Types.SeekIndex(1)->m_pPayload.get());
+        m_pSecond = static_cast<CTypeRecord*>(m_db.m_Types.SeekIndex(2)->m_pPayload.get());
     }
 
-    std::string KindText(CKindRecord* kind) { return kind ? kind->m_strName : "none"; }
+    static std::string Text(const CDataObject* record) {
+        return record ? record->m_strName : "none";
+    }
 
     CGameDatabase m_db;
     COobItem m_item;
@@ -82,7 +57,7 @@ TEST_F(OobItemLookup, KindForLineTakesTheFirstKeywordThatBeginsTheLine) {
         {"division", "none"},
     };
     for (const auto& [line, kind] : cases) {
-        EXPECT_EQ(KindText(m_item.FindKindForLine(line)), kind) << line;
+        EXPECT_EQ(Text(m_item.FindKindForLine(line)), kind) << line;
     }
 }
 
@@ -93,35 +68,31 @@ TEST_F(OobItemLookup, KindByKeywordIsExactAndCaseSensitive) {
         {"div", "none"},     {"Divi", "none"},
     };
     for (const auto& [keyword, kind] : cases) {
-        EXPECT_EQ(KindText(m_item.FindKindByKeyword(keyword)), kind) << keyword;
+        EXPECT_EQ(Text(m_item.FindKindByKeyword(keyword)), kind) << keyword;
     }
 }
 
 TEST_F(OobItemLookup, KindByTypeTakesTheFirstOfThatCode) {
-    EXPECT_EQ(KindText(m_item.FindKindByType(TYPE_LEADER)), "Leader");
-    EXPECT_EQ(KindText(m_item.FindKindByType(TYPE_STRUCTURE)), "Division");
-    EXPECT_EQ(KindText(m_item.FindKindByType(TYPE_GUNBOAT)), "none");
+    EXPECT_EQ(Text(m_item.FindKindByType(TYPE_LEADER)), "Leader");
+    EXPECT_EQ(Text(m_item.FindKindByType(TYPE_STRUCTURE)), "Division");
+    EXPECT_EQ(Text(m_item.FindKindByType(TYPE_GUNBOAT)), "none");
 }
 
-TEST_F(OobItemLookup, BaseTypeByTheTypesClassCode) {
-    EXPECT_EQ(m_item.FindBaseType(m_pFusilier)->m_strName, "Line foot");
-    EXPECT_EQ(m_item.FindBaseType(m_pHussar)->m_strName, "Horse");
+TEST_F(OobItemLookup, BaseTypeTypeAndWeaponByFirstExactMatch) {
+    EXPECT_EQ(Text(m_item.FindBaseType(m_pFusilier)), "Line foot");
+    EXPECT_EQ(Text(m_item.FindBaseType(m_pHussar)), "Horse");
     CTypeRecord leader;
     leader.m_nCode = 4;
     EXPECT_EQ(m_item.FindBaseType(&leader), nullptr);
     EXPECT_EQ(m_item.FindBaseType(nullptr), nullptr);
-}
-
-TEST_F(OobItemLookup, TypeAndWeaponByExactName) {
     EXPECT_EQ(m_item.FindType("Fusilier"), m_pFusilier);
     EXPECT_EQ(m_item.FindType("Hussar"), m_pHussar);
+    const std::pair<const char*, const char*> weapons[] = {
+        {"Musket", "Musket"}, {"Rifle", "Rifle"}, {"musket", "none"}, {"Sabre", "none"}};
+    for (const auto& [name, text] : weapons) {
+        EXPECT_EQ(Text(m_item.FindWeapon(name, m_pFusilier)), text) << name;
+    }
     EXPECT_EQ(m_item.FindType("fusilier"), nullptr);
-    EXPECT_EQ(m_item.FindType("Fusil"), nullptr);
-    EXPECT_EQ(m_item.FindWeapon("Musket", m_pFusilier),
-              m_pFusilier->m_Weapons.Head()->m_pPayload.get());
-    EXPECT_EQ(m_item.FindWeapon("Rifle", m_pFusilier)->m_strName, "Rifle");
-    EXPECT_EQ(m_item.FindWeapon("musket", m_pFusilier), nullptr);
-    EXPECT_EQ(m_item.FindWeapon("Sabre", m_pFusilier), nullptr);  // another type's weapon
     EXPECT_EQ(m_item.FindWeapon("Musket", m_pSecond), nullptr);
     EXPECT_EQ(m_item.FindWeapon("Musket", nullptr), nullptr);
 }

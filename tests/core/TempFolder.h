@@ -12,7 +12,7 @@
 #include <vector>
 
 class CTempFolder {
-  public:
+public:
     CTempFolder() {
         char pattern[] = "/tmp/harnwick-test-XXXXXX";
         const char* made = ::mkdtemp(pattern);
@@ -39,7 +39,7 @@ class CTempFolder {
         return names;
     }
 
-  private:
+private:
     std::string m_strPath;
 };
 

@@ -28,16 +28,19 @@ inline std::map<std::string, HTREEITEM> BuildTree(CTreeStore& tree,
     return entries;
 }
 
-// The children of parent as "A(B C) D", checking on the way that rows, siblings and parents
-// agree with the order of the children.
+// The children of parent as "A(B C) D". An entry whose row, previous sibling or parent does
+// not agree with its place ends the text with "<label out of place>"; as every row is checked
+// before the next sibling is taken, a broken sibling chain cannot send this round in circles.
 inline std::string Shape(const CTreeStore& tree, HTREEITEM parent = TVI_ROOT) {
     std::string out;
     std::size_t row = 0;
     HTREEITEM previous = nullptr;
-    for (HTREEITEM e = tree.GetChildItem(parent); e; previous = e, e = tree.GetNextSiblingItem(e)) {
-        EXPECT_EQ(e->Row(), row++) << e->Label();
-        EXPECT_EQ(tree.GetPrevSiblingItem(e), previous) << e->Label();
-        EXPECT_EQ(tree.GetParentItem(e), parent == TVI_ROOT ? nullptr : parent) << e->Label();
+    for (HTREEITEM e = tree.GetChildItem(parent); e;
+         previous = e, e = tree.GetNextSiblingItem(e), ++row) {
+        if (e->Row() != row || tree.GetPrevSiblingItem(e) != previous ||
+            tree.GetParentItem(e) != (parent == TVI_ROOT ? nullptr : parent)) {
+            return out + " <" + e->Label() + " out of place>";
+        }
         out += (out.empty() ? "" : " ") + tree.GetItemText(e);
         if (tree.ItemHasChildren(e)) {
             out += "(" + Shape(tree, e) + ")";

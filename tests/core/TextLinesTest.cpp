@@ -2,12 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <sstream>
 #include <string>
-
-#include "model/LineTokenizer.h"
 
 namespace {
 
@@ -69,18 +66,6 @@ TEST(TextLines, FormatsNumbersAsGeneralFormWithoutExponent) {
     };
     for (const auto& [value, text] : cases) {
         EXPECT_EQ(FormatNumber(value), text) << value;
-    }
-}
-
-// What is written reads back as the value rounded to six significant digits.
-TEST(TextLines, FormattedNumbersReadBack) {
-    for (double value :
-         {1e-05, -0.00001234, 0.000987654321, 1234567.0, 1e20, -7.25e9, 0.5, 31.4159265}) {
-        CLineTokenizer t;
-        t.SetDelimiter('|');
-        t.SetLine(FormatNumber(value) + "|");
-        const double rounded = std::stod(Format("%.5e", value));
-        EXPECT_NEAR(t.ReadNumber(), rounded, std::abs(rounded) * 1e-12) << value;
     }
 }
 

@@ -18,7 +18,7 @@ std::string Steps(const CTreeStore& tree, HTREEITEM start,
                   int (*step)(const CTreeStore&, HTREEITEM&)) {
     std::string out;
     HTREEITEM current = start;
-    for (int result = 0; result != STEP_END;) {
+    for (int result = 0, steps = 0; result != STEP_END && steps < 100; ++steps) {
         result = step(tree, current);
         out += (out.empty() ? "" : " ") + (result == STEP_END ? "end" : tree.GetItemText(current)) +
                ":" + std::to_string(result);
