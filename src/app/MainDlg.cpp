@@ -116,12 +116,16 @@ bool CMainDlg::OnInitDialog() {
     m_pDatabase.reset();
     m_strOobStatus = "-";
     m_strBackupStatus = "-";
+    ClearClipboard();
+    UpdateData(false);
+    return true;
+}
+
+void CMainDlg::ClearClipboard() {
     m_strMarkedName = "empty";
     m_strMarkedCaption = "Marked item";
     m_hMarked = nullptr;
     m_nClipMode = 0;
-    UpdateData(false);
-    return true;
 }
 
 void CMainDlg::OnCancel() {

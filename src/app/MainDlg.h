@@ -4,8 +4,10 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "app/EditorPrompts.h"
 #include "platform/Dialog.h"
 
 class COobDocument;
@@ -31,6 +33,8 @@ public:
     std::string m_strMarkedName;
     std::string m_strMarkedCaption;
     const CPixelImage* m_hIcon;
+    // Answers the reader's questions for every database this window creates.
+    CEditorPrompts m_prompts{*this};
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
@@ -76,8 +80,32 @@ protected:
     void OnReport(int command);
     void OnAbout();
 
+    // Helpers of the File commands. SaveFilesPrompt gives false when the user wanted the files
+    // saved and a write failed, so that the command that asked goes no further.
+    bool SaveFilesPrompt();
+    void OpenWorkspace(std::unique_ptr<CWorkspace> workspace, bool createDefault);
+    // Copies the file source into destination; RESULT_DONE, RESULT_CANNOT_OPEN (source) or
+    // RESULT_CANNOT_WRITE (destination, left as it was).
+    static int CopyFileText(const std::string& source, const std::string& destination);
+    // Nothing marked: New, Load, Delete and a paste in Cut mode end every mark.
+    void ClearClipboard();
+
 private:
     void MapCommands();
+    // The steps New Empty and New Existing share.
+    void NewWorkspace(const char* question, std::uint16_t oobOpenMode, bool createDefault);
+    // Asks with Yes and No; true on Yes.
+    bool Ask(const std::string& question, const std::string& caption);
+    // A workspace file picker in the start folder; the chosen path, or none when cancelled.
+    std::optional<std::string> PickWorkspaceFile(bool open);
+    // A fresh workspace at path, edited in "Workspace Properties"; none unless accepted.
+    std::unique_ptr<CWorkspace> EditNewWorkspace(const std::string& path, bool load,
+                                                 std::uint16_t mode, std::uint16_t oobOpenMode);
+    // A database loaded from targetFile that asks this window about unknown records.
+    std::unique_ptr<CGameDatabase> LoadDatabase(const std::string& targetFile);
+    // Makes the three objects current, the old ones and the old tree gone.
+    void Install(std::unique_ptr<CWorkspace> workspace, std::unique_ptr<CGameDatabase> database);
+    void ShowWriteError();
 };
 
 // The start folder from START.INI's first line: up to the line feed, one carriage return

@@ -3,14 +3,6 @@
 // (README.md lists them as not yet available).
 #include "app/MainDlg.h"
 
-void CMainDlg::OnNewEmptyOob() {}
-void CMainDlg::OnNewAttachedOob() {}
-void CMainDlg::OnNewExistingOob() {}
-void CMainDlg::OnLoad() {}
-void CMainDlg::OnSave() {}
-void CMainDlg::OnSaveAs() {}
-void CMainDlg::OnWorkspaceProperties() {}
-
 void CMainDlg::OnItemProperties() {}
 void CMainDlg::OnCopy() {}
 void CMainDlg::OnCut() {}

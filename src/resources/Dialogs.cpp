@@ -2,6 +2,7 @@
 #include "platform/MessageBox.h"
 #include "resources/ResourceIds.h"
 #include "resources/Resources.h"
+#include "resources/SmallDialogs.h"
 
 namespace {
 using K = ControlKind;
@@ -48,11 +49,26 @@ CDialogTemplate MakeMainWindow() {
 const CDialogTemplate& DialogResource(int id) {
     static const CDialogTemplate aboutBox = MakeAboutBox();
     static const CDialogTemplate mainWindow = MakeMainWindow();
+    static const CDialogTemplate workspace = MakeWorkspaceDialog();
+    static const CDialogTemplate attached = MakeAttachedDialog();
+    static const CDialogTemplate unitClass = MakeUnitClassDialog();
+    static const CDialogTemplate find = MakeFindDialog();
+    static const CDialogTemplate addList = MakeAddListDialog();
     switch (id) {
         case IDD_ABOUTBOX:
             return aboutBox;
         case IDD_HARNWICK_DIALOG:
             return mainWindow;
+        case IDD_WORKSPACE:
+            return workspace;
+        case IDD_ATTACHED:
+            return attached;
+        case IDD_UNIT_CLASS:
+            return unitClass;
+        case IDD_FIND:
+            return find;
+        case IDD_ADD_LIST:
+            return addList;
         default:
             MissingResource("dialog", id);
     }

@@ -6,6 +6,11 @@
 enum : int {
     IDD_ABOUTBOX = 100,
     IDD_HARNWICK_DIALOG = 102,
+    IDD_WORKSPACE = 103,
+    IDD_ATTACHED = 104,
+    IDD_UNIT_CLASS = 105,
+    IDD_FIND = 106,
+    IDD_ADD_LIST = 115,
     IDR_MAINFRAME = 128,  // the program's icon
     IDR_MAINMENU = 129,
 };
@@ -19,6 +24,46 @@ enum : int {
     IDC_MARKED_NAME = 1004,
     IDC_MARKED_CAPTION = 1042,
     IDC_CLIP_LIST = 1074,
+};
+
+// Controls of "Workspace Properties" (dialog 103): the path fields, their "..." pickers, the
+// picture switches and the buttons.
+enum : int {
+    IDC_WS_BACKUP_PICK = 1003,
+    IDC_WS_OOB_PICK = 1004,
+    IDC_WS_TARGET_PICK = 1005,
+    IDC_WS_TITLE = 1011,
+    IDC_WS_OOB_FILE = 1012,
+    IDC_WS_BACKUP_FILE = 1013,
+    IDC_WS_TARGET_FILE = 1014,
+    IDC_WS_UNIT_PICTURES = 1015,
+    IDC_WS_LEADER_FACES = 1016,
+    IDC_WS_INFANTRY_ICONS = 1017,
+    IDC_WS_CAVALRY_ICONS = 1018,
+    IDC_WS_ARTILLERY_ICONS = 1019,
+    IDC_WS_ACCEPT = 1020,
+    IDC_WS_CANCEL = 1021,
+    IDC_WS_RESET = 1022,
+    IDC_WS_UNIT_PICTURES_ON = 1024,
+    IDC_WS_LEADER_FACES_ON = 1025,
+    IDC_WS_INFANTRY_ICONS_ON = 1026,
+    IDC_WS_CAVALRY_ICONS_ON = 1027,
+    IDC_WS_ARTILLERY_ICONS_ON = 1028,
+};
+
+// Controls of "Find item" (106), "Add new list" (115), "Attached Order of Battles" (104) and
+// "Select unit class" (105). The three lists share one id, as do the Cancel buttons.
+enum : int {
+    IDC_CHOICE_LIST = 1025,
+    IDC_CHOICE_CANCEL = 1021,
+    IDC_CHOICE_ACCEPT = 1026,
+    IDC_FIND_SEARCH = 1022,
+    IDC_FIND_GOTO = 1023,
+    IDC_FIND_TEXT = 1033,
+    IDC_CLASS_INFANTRY = 1027,
+    IDC_CLASS_CAVALRY = 1028,
+    IDC_CLASS_ARTILLERY = 1029,
+    IDC_CLASS_LINE = 1030,
 };
 
 // Menu commands.

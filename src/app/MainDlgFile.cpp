@@ -1,0 +1,232 @@
+// The File commands: New (empty, existing, attached), Load, Save, Save as and Properties, and
+// the helpers they share.
+#include "app/MainDlg.h"
+#include "app/Workspace.h"
+#include "dialogs/AttachedDlg.h"
+#include "dialogs/WorkspaceDlg.h"
+#include "gamedata/GameDatabase.h"
+#include "gamedata/GameRecords.h"
+#include "model/FileWriter.h"
+#include "model/OobDocument.h"
+#include "model/Result.h"
+#include "model/TextLines.h"
+#include "platform/FileDialog.h"
+
+namespace {
+constexpr const char* kWorkspaceFilter = "Workspace Files (*.txt)|*.txt|";
+constexpr const char* kNewTitle = "New Order of Battle";
+}  // namespace
+
+bool CMainDlg::Ask(const std::string& question, const std::string& caption) {
+    return MessageBox(question, caption, MB_YESNO | MB_ICONQUESTION) == IDYES;
+}
+
+void CMainDlg::ShowWriteError() {
+    MessageBox("Cannot write " + LastWriteError(), "Error", MB_ICONEXCLAMATION);
+}
+
+std::optional<std::string> CMainDlg::PickWorkspaceFile(bool open) {
+    CFileDialog picker(open, "txt", "", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, kWorkspaceFilter,
+                       this);
+    picker.m_strInitialDir = m_strStartDir;
+    if (picker.DoModal() != IDOK) {
+        return std::nullopt;
+    }
+    return picker.GetPathName();
+}
+
+std::unique_ptr<CWorkspace> CMainDlg::EditNewWorkspace(const std::string& path, bool load,
+                                                       std::uint16_t mode,
+                                                       std::uint16_t oobOpenMode) {
+    auto workspace = std::make_unique<CWorkspace>();
+    workspace->m_strTitle = kNewTitle;
+    workspace->m_strPath = path;
+    if (load) {
+        workspace->Load(path);
+    }
+    CWorkspaceDlg dlg(*workspace);
+    dlg.m_nMode = mode;
+    dlg.m_nOpenMode = oobOpenMode;
+    dlg.m_strInitialDir = m_strStartDir;
+    if (dlg.DoModal() != IDOK) {
+        return nullptr;
+    }
+    return workspace;
+}
+
+std::unique_ptr<CGameDatabase> CMainDlg::LoadDatabase(const std::string& targetFile) {
+    auto database = std::make_unique<CGameDatabase>();
+    database->m_pPrompts = &m_prompts;
+    database->Load(targetFile);
+    return database;
+}
+
+// The tree goes first: its items point into the old database.
+void CMainDlg::Install(std::unique_ptr<CWorkspace> workspace,
+                       std::unique_ptr<CGameDatabase> database) {
+    m_tree.DeleteAllItems();
+    ClearClipboard();
+    m_pDocument.reset();
+    m_pDatabase = std::move(database);
+    m_pDocument = std::make_unique<COobDocument>();
+    m_pDocument->m_pDatabase = m_pDatabase.get();
+    m_pWorkspace = std::move(workspace);
+}
+
+// A write that fails leaves the status fields as they were, and the command that asked (New
+// or Load) stops, so that the changes are not thrown away with the tree.
+bool CMainDlg::SaveFilesPrompt() {
+    UpdateData(true);
+    if (m_strOobStatus != "*" || !Ask("Do you want to save your files?", "Save")) {
+        return true;
+    }
+    if (m_pDocument->Save(m_pDocument->m_strName, m_tree) != RESULT_DONE ||
+        m_pWorkspace->Save(m_pWorkspace->m_strPath) != RESULT_DONE) {
+        ShowWriteError();
+        return false;
+    }
+    m_strOobStatus = " ";
+    UpdateData(false);
+    return true;
+}
+
+// A skeleton that cannot be written is reported; the tree then shows what the file holds
+// (nothing, or the old file left in place), so the status fields stay true.
+void CMainDlg::OpenWorkspace(std::unique_ptr<CWorkspace> workspace, bool createDefault) {
+    std::unique_ptr<CGameDatabase> database = LoadDatabase(workspace->m_strTargetFile);
+    Install(std::move(workspace), std::move(database));
+    m_strOobStatus = " ";
+    m_strBackupStatus = "*";
+    const std::string& oobFile = m_pWorkspace->m_strOobFile;
+    if (createDefault && m_pDocument->CreateDefault(oobFile) != RESULT_DONE) {
+        ShowWriteError();
+    }
+    m_pDocument->LoadTree(oobFile, m_tree);
+    UpdateData(false);
+}
+
+int CMainDlg::CopyFileText(const std::string& source, const std::string& destination) {
+    std::string text;
+    if (!ReadWholeFile(source, text)) {
+        return RESULT_CANNOT_OPEN;
+    }
+    return ReplaceFile(destination, text);
+}
+
+void CMainDlg::NewWorkspace(const char* question, std::uint16_t oobOpenMode, bool createDefault) {
+    if (!Ask(question, "New") || !SaveFilesPrompt()) {
+        return;
+    }
+    const std::optional<std::string> path = PickWorkspaceFile(false);
+    if (!path) {
+        return;
+    }
+    std::unique_ptr<CWorkspace> workspace = EditNewWorkspace(*path, false, 0, oobOpenMode);
+    if (workspace) {
+        OpenWorkspace(std::move(workspace), createDefault);
+    }
+}
+
+void CMainDlg::OnNewEmptyOob() {
+    NewWorkspace("Do you want to make a new, empty Order of Battle?", 0, true);
+}
+
+void CMainDlg::OnNewExistingOob() {
+    NewWorkspace("Do you want to edit an existing Order of Battle?", 1, false);
+}
+
+// The attached list is shown before the current workspace is replaced. When it ends with no
+// line chosen (the game data lists no attached order of battle) there is nothing to base the
+// new one on: the command ends as a cancelled one does and the current workspace stays open.
+// A chosen file that does not open leaves no workspace at all.
+void CMainDlg::OnNewAttachedOob() {
+    if (!Ask("Do you want to make a new Order of Battle basing on an attached one?", "New") ||
+        !SaveFilesPrompt()) {
+        return;
+    }
+    const std::optional<std::string> path = PickWorkspaceFile(false);
+    if (!path) {
+        return;
+    }
+    std::unique_ptr<CWorkspace> workspace = EditNewWorkspace(*path, false, 0, 0);
+    if (!workspace) {
+        return;
+    }
+    std::unique_ptr<CGameDatabase> database = LoadDatabase(workspace->m_strTargetFile);
+    CAttachedDlg dlg(*database);
+    const int index = dlg.DoModal();
+    if (index < 0 || index >= database->m_AttachedOobs.Count()) {
+        return;
+    }
+    // A relative path is taken from the current folder, the one the editor was started in.
+    const std::string source =
+        static_cast<CAttachedOobRecord&>(*database->m_AttachedOobs.SeekIndex(index)->m_pPayload)
+            .m_strFile;
+    const std::string oobFile = workspace->m_strOobFile;
+    Install(std::move(workspace), std::move(database));
+
+    const int copied = CopyFileText(source, oobFile);
+    if (copied == RESULT_CANNOT_OPEN) {
+        MessageBox("Bad or missing " + source + " file!", "Error", MB_ICONEXCLAMATION);
+        m_pDocument.reset();
+        m_pDatabase.reset();
+        m_pWorkspace.reset();
+        m_strOobStatus = "-";
+        m_strBackupStatus = "-";
+        UpdateData(false);
+        return;
+    }
+    if (copied != RESULT_DONE) {
+        ShowWriteError();
+    }
+    m_pDocument->LoadTree(oobFile, m_tree);
+    m_strOobStatus = " ";
+    m_strBackupStatus = "*";
+    UpdateData(false);
+}
+
+void CMainDlg::OnLoad() {
+    if (!Ask("Do you want to load an existing workspace?", "Load") || !SaveFilesPrompt()) {
+        return;
+    }
+    const std::optional<std::string> path = PickWorkspaceFile(true);
+    if (!path) {
+        return;
+    }
+    std::unique_ptr<CWorkspace> workspace = EditNewWorkspace(*path, true, 1, 0);
+    if (workspace) {
+        OpenWorkspace(std::move(workspace), false);
+    }
+}
+
+void CMainDlg::OnSave() {
+    SaveFilesPrompt();
+}
+
+// A workspace file that cannot be written keeps the workspace's old path, so that Properties
+// goes on saving where the workspace file is.
+void CMainDlg::OnSaveAs() {
+    if (!m_pWorkspace || !Ask("Do you want to save your workspace under a new name?", "Save As")) {
+        return;
+    }
+    const std::optional<std::string> path = PickWorkspaceFile(false);
+    if (!path) {
+        return;
+    }
+    const std::string oldPath = m_pWorkspace->m_strPath;
+    if (m_pWorkspace->Save(*path) != RESULT_DONE) {
+        m_pWorkspace->m_strPath = oldPath;
+        ShowWriteError();
+    }
+}
+
+void CMainDlg::OnWorkspaceProperties() {
+    if (!m_pWorkspace) {
+        return;
+    }
+    CWorkspaceDlg dlg(*m_pWorkspace);
+    dlg.m_nMode = 1;
+    dlg.m_nOpenMode = 0;
+    dlg.m_strInitialDir = m_strStartDir;
+    dlg.DoModal();
+}

@@ -1,0 +1,599 @@
+// The File commands driven as a user would: Load, the three New commands, Save and the click on
+// the status field, Save as and Properties, on a copy of the sample workspace in a fresh folder.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "HeadlessTest.h"
+#include "UiFolder.h"
+#include "app/MainDlg.h"
+#include "app/Workspace.h"
+#include "gamedata/GameDatabase.h"
+#include "gamedata/GameRecords.h"
+#include "model/OobDocument.h"
+#include "model/OobItem.h"
+#include "model/TreeWalk.h"
+#include "resources/ResourceIds.h"
+
+namespace {
+using Script = std::function<void(CHeadlessUser&)>;
+
+// The tree's labels in pre-order, each indented by its depth.
+std::vector<std::string> Labels(const CTreeStore& tree) {
+    std::vector<std::string> labels;
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        labels.push_back(std::string(static_cast<std::size_t>(walk.Depth()), ' ') +
+                         tree.GetItemText(walk.Current()));
+    }
+    return labels;
+}
+
+// What the core reads from an order-of-battle file with the given target file.
+std::vector<std::string> LabelsOfFile(const std::string& oobFile, const std::string& target) {
+    CGameDatabase database;
+    database.Load(target);
+    COobDocument document;
+    document.m_pDatabase = &database;
+    CTreeCtrl tree;
+    document.LoadTree(oobFile, tree);
+    return Labels(tree);
+}
+
+std::string WithReplaced(std::string text, const std::string& from, const std::string& to) {
+    const auto at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return at == std::string::npos ? text : text.replace(at, from.size(), to);
+}
+
+class FileCommandsTest : public HeadlessTest {
+protected:
+    FileCommandsTest() {
+        for (const char* name :
+             {"harnwick.txt", "valdoria.inf", "valdoria.oob", "frontier.oob", "valdoria.tpl"}) {
+            std::filesystem::copy_file(std::string(HW_SAMPLE_DIR) + "/" + name, folder / name);
+        }
+        WriteFileBytes(folder / "START.INI", folder.Path() + "\r\n");
+    }
+
+    // Runs the main window with script, and quits it afterwards.
+    void Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script) {
+        ui.OnDialog(IDD_HARNWICK_DIALOG, [&](CHeadlessUser& user) {
+            script(user, static_cast<CMainDlg&>(user.Dialog()));
+            ui.AnswerMessage("Do you want to quit?", IDYES);
+            user.Command(ID_FILE_EXIT);
+        });
+        dlg.DoModal();
+    }
+
+    // File, Load of path, accepted as it stands in "Workspace Properties".
+    void Load(CHeadlessUser& user, const std::string& path) {
+        ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
+        ui.AnswerFileDialog(path);
+        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) { ws.Click(IDC_WS_ACCEPT); });
+        user.Command(ID_FILE_LOAD);
+    }
+
+    // One of the New commands: the workspace file, then the OOB and target files picked in
+    // "Workspace Properties"; then answers the messages that follow.
+    void New(CHeadlessUser& user, int command, const std::string& workspace,
+             const std::string& oobFile, const std::string& target,
+             const std::vector<std::string>& laterMessages = {}) {
+        ui.AnswerMessage(IDYES);
+        ui.AnswerFileDialog(workspace);
+        ui.AnswerFileDialog(oobFile);
+        ui.AnswerFileDialog(target);
+        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+            ws.Click(IDC_WS_OOB_PICK);
+            ws.Click(IDC_WS_TARGET_PICK);
+            ws.Click(IDC_WS_ACCEPT);
+        });
+        for (const std::string& text : laterMessages) {
+            ui.AnswerMessage(text, IDOK);
+        }
+        user.Command(command);
+    }
+
+    // A change of the tree, as an edit command leaves it: the first army renamed, both
+    // status fields "*".
+    static void EditTree(CMainDlg& main) {
+        static_cast<COobItem*>(main.m_tree.GetItemData(main.m_tree.GetRootItem()))->m_strName =
+            "First Army";
+        main.m_strOobStatus = "*";
+        main.m_strBackupStatus = "*";
+        main.UpdateData(false);
+    }
+
+    static void ExpectStatus(CHeadlessUser& user, const char* oob, const char* backup) {
+        EXPECT_EQ(user.Text(IDC_OOB_STATUS), oob);
+        EXPECT_EQ(user.Text(IDC_BACKUP_STATUS), backup);
+    }
+
+    CUiFolder folder;
+    CMainDlg dlg;
+};
+
+TEST_F(FileCommandsTest, LoadOfTheSampleWorkspaceShowsItsOrderOfBattle) {
+    const std::vector<std::string> expected =
+        LabelsOfFile(folder / "valdoria.oob", folder / "valdoria.inf");
+    ASSERT_GT(expected.size(), 20u);
+    EXPECT_EQ(expected[0], "Royal Army of Valdoria");
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
+        ui.AnswerFileDialog(folder / "harnwick.txt");
+        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+            EXPECT_EQ(ws.Text(IDC_WS_TITLE), "Valdorian Campaign");
+            EXPECT_EQ(ws.Text(IDC_WS_OOB_FILE), "valdoria.oob");
+            EXPECT_EQ(ws.Text(IDC_WS_TARGET_FILE), "valdoria.inf");
+            EXPECT_EQ(ws.Check(IDC_WS_UNIT_PICTURES_ON), 1);
+            EXPECT_FALSE(ws.IsEnabled(IDC_WS_OOB_PICK));
+            EXPECT_FALSE(ws.IsEnabled(IDC_WS_TARGET_PICK));
+            ws.Click(IDC_WS_ACCEPT);
+        });
+        user.Command(ID_FILE_LOAD);
+        ExpectStatus(user, " ", "*");
+        EXPECT_EQ(Labels(main.m_tree), expected);
+        ASSERT_NE(main.m_pWorkspace, nullptr);
+        EXPECT_EQ(main.m_pWorkspace->m_strTitle, "Valdorian Campaign");
+        EXPECT_EQ(main.m_pWorkspace->m_strPath, folder / "harnwick.txt");
+        ASSERT_NE(main.m_pDatabase, nullptr);
+        EXPECT_EQ(main.m_pDocument->m_pDatabase, main.m_pDatabase.get());
+        EXPECT_EQ(main.m_pDatabase->m_pPrompts, &main.m_prompts);
+        EXPECT_EQ(main.m_pDatabase->m_AttachedOobs.Count(), 1);
+    });
+    ASSERT_EQ(ui.Messages().size(), 2u);  // the Load question and the quit question
+    EXPECT_EQ(ui.Messages()[0].caption, "Load");
+    EXPECT_EQ(ui.Messages()[0].type, unsigned{MB_YESNO | MB_ICONQUESTION});
+    ASSERT_EQ(ui.FileDialogs().size(), 1u);
+    const CShownFileDialog& picker = ui.FileDialogs()[0];
+    EXPECT_TRUE(picker.open);
+    EXPECT_EQ(picker.defaultExtension, "txt");
+    EXPECT_EQ(picker.initialDir, folder.Path());
+    EXPECT_EQ(picker.flags, unsigned{OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT});
+    ASSERT_EQ(picker.filters.size(), 1u);
+    EXPECT_EQ(picker.filters[0].description, "Workspace Files (*.txt)");
+    EXPECT_EQ(picker.filters[0].pattern, "*.txt");
+}
+
+// The dialog shows a fresh workspace; with its OOB and target pickers disabled only Cancel
+// ends it usefully, and nothing is opened or written.
+TEST_F(FileCommandsTest, LoadOfAWorkspaceFileThatDoesNotExistShowsTheDefaults) {
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
+        ui.AnswerFileDialog(folder / "nothere.txt");
+        ui.AnswerMessage("You must select OOB file!", IDOK);
+        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+            EXPECT_EQ(ws.Text(IDC_WS_TITLE), "New Order of Battle");
+            for (int path : {IDC_WS_OOB_FILE, IDC_WS_BACKUP_FILE, IDC_WS_TARGET_FILE}) {
+                EXPECT_EQ(ws.Text(path), "");
+            }
+            for (int picture : {IDC_WS_UNIT_PICTURES, IDC_WS_LEADER_FACES, IDC_WS_INFANTRY_ICONS,
+                                IDC_WS_CAVALRY_ICONS, IDC_WS_ARTILLERY_ICONS}) {
+                EXPECT_EQ(ws.Text(picture), "empty");
+            }
+            ws.Click(IDC_WS_ACCEPT);
+            EXPECT_TRUE(ws.Dialog().IsRunning());
+            ws.Click(IDC_WS_CANCEL);
+        });
+        user.Command(ID_FILE_LOAD);
+        ExpectStatus(user, "-", "-");
+        EXPECT_EQ(main.m_pWorkspace, nullptr);
+    });
+    EXPECT_FALSE(std::filesystem::exists(folder / "nothere.txt"));
+}
+
+// A No, a cancelled chooser or a cancelled "Workspace Properties" at any step leaves the open
+// workspace, its tree and the status fields as they were.
+TEST_F(FileCommandsTest, ACancelledStepKeepsTheCurrentWorkspace) {
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        Load(user, folder / "harnwick.txt");
+        const CWorkspace* workspace = main.m_pWorkspace.get();
+        const std::vector<std::string> labels = Labels(main.m_tree);
+        const std::vector<Script> cancels = {
+            [&](CHeadlessUser& u) {
+                ui.AnswerMessage("Do you want to load an existing workspace?", IDNO);
+                u.Command(ID_FILE_LOAD);
+            },
+            [&](CHeadlessUser& u) {
+                ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
+                ui.CancelFileDialog();
+                u.Command(ID_FILE_LOAD);
+            },
+            [&](CHeadlessUser& u) {
+                ui.AnswerMessage("Do you want to make a new, empty Order of Battle?", IDYES);
+                ui.CancelFileDialog();
+                u.Command(ID_FILE_NEW_EMPTY);
+            },
+            [&](CHeadlessUser& u) {
+                ui.AnswerMessage("Do you want to edit an existing Order of Battle?", IDYES);
+                ui.AnswerFileDialog(folder / "other.txt");
+                ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) { ws.Escape(); });
+                u.Command(ID_FILE_NEW_EXISTING);
+            },
+            [&](CHeadlessUser& u) {
+                ui.AnswerMessage(
+                    "Do you want to make a new Order of Battle basing on an "
+                    "attached one?",
+                    IDNO);
+                u.Command(ID_FILE_NEW_ATTACHED);
+            },
+            [&](CHeadlessUser& u) {
+                ui.AnswerMessage("Do you want to save your workspace under a new name?", IDYES);
+                ui.CancelFileDialog();
+                u.Command(ID_FILE_SAVE_AS);
+            },
+        };
+        for (const Script& cancel : cancels) {
+            cancel(user);
+            EXPECT_EQ(main.m_pWorkspace.get(), workspace);
+            EXPECT_EQ(Labels(main.m_tree), labels);
+            ExpectStatus(user, " ", "*");
+        }
+    });
+    EXPECT_FALSE(std::filesystem::exists(folder / "other.txt"));
+}
+
+TEST_F(FileCommandsTest, NewEmptyWritesTheSkeletonOfTheTargetAndShowsIt) {
+    // What the core writes for the sample's game data.
+    CGameDatabase database;
+    database.Load(folder / "valdoria.inf");
+    COobDocument document;
+    document.m_pDatabase = &database;
+    ASSERT_EQ(document.CreateDefault(folder / "expected.oob"), 0);
+    const std::string skeleton = ReadFileBytes(folder / "expected.oob");
+    ASSERT_EQ(skeleton.rfind("3\r\nA Army\r\n\tBegin\r\n", 0), 0u);
+
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        ui.AnswerMessage("Do you want to make a new, empty Order of Battle?", IDYES);
+        ui.AnswerFileDialog(folder / "new");
+        ui.AnswerFileDialog(folder / "fresh");
+        ui.AnswerFileDialog(folder / "valdoria.inf");
+        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+            EXPECT_EQ(ws.Text(IDC_WS_TITLE), "New Order of Battle");
+            EXPECT_TRUE(ws.IsEnabled(IDC_WS_OOB_PICK));
+            ws.Click(IDC_WS_OOB_PICK);
+            ws.Click(IDC_WS_TARGET_PICK);
+            ws.Click(IDC_WS_ACCEPT);
+        });
+        user.Command(ID_FILE_NEW_EMPTY);
+        ExpectStatus(user, " ", "*");
+        EXPECT_EQ(Labels(main.m_tree),
+                  LabelsOfFile(folder / "expected.oob", folder / "valdoria.inf"));
+        EXPECT_EQ(main.m_tree.GetItemText(main.m_tree.GetRootItem()), "Army");
+    });
+    ASSERT_EQ(ui.FileDialogs().size(), 3u);
+    EXPECT_FALSE(ui.FileDialogs()[0].open);  // the workspace file: a new name
+    EXPECT_FALSE(ui.FileDialogs()[1].open);  // the OOB file: a new name
+    EXPECT_EQ(ui.FileDialogs()[1].initialDir, folder.Path());
+    EXPECT_EQ(ReadFileBytes(folder / "fresh.oob"), skeleton);
+    EXPECT_EQ(ReadFileBytes(folder / "new.txt"),
+              "New Order of Battle|\r\n" + folder / "fresh.oob" + "|\r\n|\r\n" +
+                  folder / "valdoria.inf" +
+                  "|\r\n0|empty|\r\n0|empty|\r\n0|empty|\r\n0|empty|\r\n0|empty|\r\n");
+}
+
+// Save writes only when the tree has changed; then it writes the order of battle and the
+// workspace, and the order-of-battle status alone becomes " ".
+TEST_F(FileCommandsTest, SaveWritesOnlyAChangedTree) {
+    const std::string sample = ReadFileBytes(folder / "valdoria.oob");
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        Load(user, folder / "harnwick.txt");
+        static_cast<COobItem*>(main.m_tree.GetItemData(main.m_tree.GetRootItem()))->m_strName =
+            "First Army";
+        user.Command(ID_FILE_SAVE);  // status " ": nothing happens, nothing is shown
+        user.Click(IDC_OOB_STATUS);
+        EXPECT_EQ(ReadFileBytes(folder / "valdoria.oob"), sample);
+
+        EditTree(main);
+        WriteFileBytes(folder / "harnwick.txt", "");
+        ui.AnswerMessage("Do you want to save your files?", IDNO);
+        user.Click(IDC_OOB_STATUS);
+        ExpectStatus(user, "*", "*");
+        EXPECT_EQ(ReadFileBytes(folder / "valdoria.oob"), sample);
+
+        ui.AnswerMessage("Do you want to save your files?", IDYES);
+        user.Click(IDC_OOB_STATUS);
+        ExpectStatus(user, " ", "*");
+        EXPECT_EQ(ReadFileBytes(folder / "valdoria.oob"),
+                  WithReplaced(sample, "A Royal Army of Valdoria", "A First Army"));
+        EXPECT_EQ(ReadFileBytes(folder / "harnwick.txt"),
+                  ReadFileBytes(std::string(HW_SAMPLE_DIR) + "/harnwick.txt"));
+
+        EditTree(main);
+        ui.AnswerMessage("Do you want to save your files?", IDYES);
+        user.Command(ID_FILE_SAVE);
+        ExpectStatus(user, " ", "*");
+    });
+    EXPECT_EQ(ui.Messages()[2].caption, "Save");
+    EXPECT_EQ(ui.Messages()[2].type, unsigned{MB_YESNO | MB_ICONQUESTION});
+}
+
+// The first step of New and Load offers to save a changed tree; No goes on without saving.
+TEST_F(FileCommandsTest, NewAndLoadOfferToSaveTheChangedTreeFirst) {
+    const std::string sample = ReadFileBytes(folder / "valdoria.oob");
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        Load(user, folder / "harnwick.txt");
+        EditTree(main);
+        ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
+        ui.AnswerMessage("Do you want to save your files?", IDNO);
+        ui.CancelFileDialog();
+        user.Command(ID_FILE_LOAD);
+        EXPECT_EQ(ReadFileBytes(folder / "valdoria.oob"), sample);
+        ExpectStatus(user, "*", "*");
+
+        ui.AnswerMessage("Do you want to make a new, empty Order of Battle?", IDYES);
+        ui.AnswerMessage("Do you want to save your files?", IDYES);
+        ui.CancelFileDialog();
+        user.Command(ID_FILE_NEW_EMPTY);
+        ExpectStatus(user, " ", "*");
+        EXPECT_NE(ReadFileBytes(folder / "valdoria.oob"), sample);
+    });
+}
+
+// A save that fails names the file, leaves the status fields, and stops the command that
+// asked, so the changed tree is still there to be saved.
+TEST_F(FileCommandsTest, AFailedSaveNamesTheFileAndKeepsTheChangedTree) {
+    std::filesystem::create_directory(folder / "work");
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        New(user, ID_FILE_NEW_EMPTY, folder / "work/new.txt", folder / "work/army.oob",
+            folder / "valdoria.inf");
+        std::filesystem::remove_all(folder / "work");
+        EditTree(main);
+        ui.AnswerMessage("Do you want to save your files?", IDYES);
+        ui.AnswerMessage(IDOK);
+        user.Click(IDC_OOB_STATUS);
+        ExpectStatus(user, "*", "*");
+
+        ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
+        ui.AnswerMessage("Do you want to save your files?", IDYES);
+        ui.AnswerMessage(IDOK);
+        user.Command(ID_FILE_LOAD);  // stops after the error: no file chooser
+        ExpectStatus(user, "*", "*");
+        EXPECT_EQ(main.m_tree.GetItemText(main.m_tree.GetRootItem()), "First Army");
+    });
+    for (std::size_t i : {2u, 5u}) {
+        ASSERT_GT(ui.Messages().size(), i);
+        const CShownMessage& error = ui.Messages()[i];
+        EXPECT_EQ(error.text.rfind("Cannot write " + folder / "work/army.oob" + ": ", 0), 0u)
+            << error.text;
+        EXPECT_EQ(error.caption, "Error");
+        EXPECT_EQ(error.type, unsigned{MB_OK | MB_ICONEXCLAMATION});
+    }
+    EXPECT_EQ(ui.FileDialogs().size(), 3u);  // those of New only
+}
+
+TEST_F(FileCommandsTest, NewExistingReadsTheChosenFileWithoutWritingIt) {
+    const std::string sample = ReadFileBytes(folder / "valdoria.oob");
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        New(user, ID_FILE_NEW_EXISTING, folder / "existing.txt", folder / "valdoria.oob",
+            folder / "valdoria.inf");
+        ExpectStatus(user, " ", "*");
+        EXPECT_EQ(Labels(main.m_tree),
+                  LabelsOfFile(folder / "valdoria.oob", folder / "valdoria.inf"));
+    });
+    EXPECT_EQ(ui.Messages()[0].text, "Do you want to edit an existing Order of Battle?");
+    EXPECT_EQ(ui.Messages()[0].caption, "New");
+    EXPECT_TRUE(ui.FileDialogs()[1].open);  // the OOB file must exist
+    EXPECT_EQ(ReadFileBytes(folder / "valdoria.oob"), sample);
+}
+
+// The sample's attached order of battle names its file relative to the current folder.
+TEST_F(FileCommandsTest, NewAttachedCopiesTheChosenAttachedOrderOfBattle) {
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        ui.OnDialog(IDD_ATTACHED, [](CHeadlessUser& attached) {
+            EXPECT_EQ(attached.Lines(IDC_CHOICE_LIST).GetCount(), 1);
+            EXPECT_EQ(attached.Lines(IDC_CHOICE_LIST).GetText(0), "Frontier Skirmish");
+            attached.Click(IDC_CHOICE_ACCEPT);
+        });
+        New(user, ID_FILE_NEW_ATTACHED, folder / "attached.txt", folder / "copy.oob",
+            "valdoria.inf");
+        ExpectStatus(user, " ", "*");
+        EXPECT_EQ(main.m_tree.GetItemText(main.m_tree.GetRootItem()), "Valdorian Frontier Guard");
+        EXPECT_EQ(Labels(main.m_tree), LabelsOfFile("frontier.oob", "valdoria.inf"));
+    });
+    EXPECT_EQ(ui.Messages()[0].text,
+              "Do you want to make a new Order of Battle basing on an attached one?");
+    EXPECT_EQ(ui.Messages()[0].caption, "New");
+    EXPECT_EQ(ReadFileBytes(folder / "copy.oob"), ReadFileBytes(folder / "frontier.oob"));
+}
+
+// The copy is byte for byte: CR LF and bare LF lines, a last line without a line end.
+TEST_F(FileCommandsTest, NewAttachedCopiesTheFileByteForByte) {
+    const std::string odd = "3\r\nA Odd Army\n\tBegin\r\n\tEnd\r\nDEP 6 0 Last depot";
+    WriteFileBytes(folder / "frontier.oob", odd);
+    WriteFileBytes(folder / "copy.oob", "an older file, much longer than the copy\r\n");
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        ui.OnDialog(IDD_ATTACHED, [](CHeadlessUser& attached) { attached.Escape(); });
+        New(user, ID_FILE_NEW_ATTACHED, folder / "attached.txt", folder / "copy.oob",
+            "valdoria.inf");
+        EXPECT_EQ(Labels(main.m_tree), (std::vector<std::string>{"Odd Army"}));
+    });
+    EXPECT_EQ(ReadFileBytes(folder / "copy.oob"), odd);
+}
+
+// A missing attached file: the message naming it, then no workspace at all: both fields "-",
+// an empty tree, and every workspace command inactive. The new workspace file stays on disk.
+TEST_F(FileCommandsTest, NewAttachedWithAMissingFileLeavesNoWorkspace) {
+    WriteFileBytes(folder / "broken.inf", WithReplaced(ReadFileBytes(folder / "valdoria.inf"),
+                                                       "frontier.oob|", "lost/gone.oob|"));
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        Load(user, folder / "harnwick.txt");
+        main.m_strMarkedCaption = "Marked item [Copy]";
+        main.m_nClipMode = 2;
+        main.m_hMarked = main.m_tree.GetRootItem();
+        ui.OnDialog(IDD_ATTACHED, [](CHeadlessUser& attached) { attached.Enter(); });
+        New(user, ID_FILE_NEW_ATTACHED, folder / "attached.txt", folder / "copy.oob",
+            folder / "broken.inf", {"Bad or missing lost/gone.oob file!"});
+        ExpectStatus(user, "-", "-");
+        EXPECT_EQ(main.m_tree.GetCount(), 0u);
+        EXPECT_EQ(main.m_pWorkspace, nullptr);
+        EXPECT_EQ(main.m_pDatabase, nullptr);
+        EXPECT_EQ(main.m_pDocument, nullptr);
+        EXPECT_EQ(main.m_nClipMode, 0);
+        EXPECT_EQ(main.m_hMarked, nullptr);
+        EXPECT_EQ(user.Text(IDC_MARKED_CAPTION), "Marked item");
+        const std::size_t shown = ui.Messages().size();
+        for (int command : {ID_FILE_SAVE, ID_FILE_SAVE_AS, ID_FILE_PROPERTIES, ID_EDIT_COPY,
+                            ID_OPTIONS_FIND, ID_BACKUP_SAVE, ID_REPORT_HTML}) {
+            user.Command(command);
+        }
+        user.Click(IDC_OOB_STATUS);
+        user.Click(IDC_BACKUP_STATUS);
+        EXPECT_EQ(ui.Messages().size(), shown);
+        ExpectStatus(user, "-", "-");
+    });
+    const CShownMessage& error = ui.Messages()[2];
+    EXPECT_EQ(error.caption, "Error");
+    EXPECT_EQ(error.type, unsigned{MB_OK | MB_ICONEXCLAMATION});
+    EXPECT_TRUE(std::filesystem::exists(folder / "attached.txt"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "copy.oob"));
+}
+
+// A target file with no attached order of battle: the list is empty, so there is nothing to
+// base the new order of battle on, and the command ends as a cancelled one does.
+TEST_F(FileCommandsTest, NewAttachedWithNothingToChooseKeepsTheCurrentWorkspace) {
+    WriteFileBytes(folder / "none.inf", WithReplaced(ReadFileBytes(folder / "valdoria.inf"),
+                                                     "\tfrontier.oob|Frontier Skirmish|\r\n", ""));
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        Load(user, folder / "harnwick.txt");
+        const CWorkspace* workspace = main.m_pWorkspace.get();
+        const std::vector<std::string> labels = Labels(main.m_tree);
+        ui.OnDialog(IDD_ATTACHED, [](CHeadlessUser& attached) {
+            EXPECT_EQ(attached.Lines(IDC_CHOICE_LIST).GetCount(), 0);
+            attached.Click(IDC_CHOICE_ACCEPT);
+        });
+        New(user, ID_FILE_NEW_ATTACHED, folder / "attached.txt", folder / "copy.oob",
+            folder / "none.inf");
+        EXPECT_EQ(main.m_pWorkspace.get(), workspace);
+        EXPECT_EQ(main.m_pWorkspace->m_strPath, folder / "harnwick.txt");
+        EXPECT_EQ(Labels(main.m_tree), labels);
+        ExpectStatus(user, " ", "*");
+    });
+    EXPECT_FALSE(std::filesystem::exists(folder / "copy.oob"));
+}
+
+TEST_F(FileCommandsTest, SaveAsWritesTheWorkspaceUnderTheNewNameOnly) {
+    const std::string sample = ReadFileBytes(folder / "valdoria.oob");
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        Load(user, folder / "harnwick.txt");
+        EditTree(main);
+        ui.AnswerMessage("Do you want to save your workspace under a new name?", IDYES);
+        ui.AnswerFileDialog(folder / "renamed");
+        user.Command(ID_FILE_SAVE_AS);
+        EXPECT_EQ(main.m_pWorkspace->m_strPath, folder / "renamed.txt");
+        ExpectStatus(user, "*", "*");
+
+        ui.AnswerMessage("Do you want to save your workspace under a new name?", IDYES);
+        ui.AnswerFileDialog(folder / "missing/elsewhere.txt");
+        ui.AnswerMessage(IDOK);
+        user.Command(ID_FILE_SAVE_AS);
+        EXPECT_EQ(main.m_pWorkspace->m_strPath, folder / "renamed.txt");
+    });
+    EXPECT_EQ(ui.Messages()[1].caption, "Save As");
+    EXPECT_FALSE(ui.FileDialogs()[1].open);
+    EXPECT_EQ(ui.FileDialogs()[1].defaultExtension, "txt");
+    EXPECT_EQ(ReadFileBytes(folder / "renamed.txt"), ReadFileBytes(folder / "harnwick.txt"));
+    EXPECT_EQ(ReadFileBytes(folder / "valdoria.oob"), sample);
+    const CShownMessage& error = ui.Messages()[3];
+    EXPECT_EQ(error.text.rfind("Cannot write " + folder / "missing/elsewhere.txt", 0), 0u);
+    EXPECT_EQ(error.caption, "Error");
+}
+
+TEST_F(FileCommandsTest, PropertiesEditsTheOpenWorkspaceAndSavesItsFile) {
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        Load(user, folder / "harnwick.txt");
+        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+            EXPECT_FALSE(ws.IsEnabled(IDC_WS_OOB_PICK));
+            EXPECT_FALSE(ws.IsEnabled(IDC_WS_TARGET_PICK));
+            ws.Type(IDC_WS_TITLE, "Not kept");
+            ws.Click(IDC_WS_CANCEL);
+        });
+        user.Command(ID_FILE_PROPERTIES);
+        EXPECT_EQ(main.m_pWorkspace->m_strTitle, "Valdorian Campaign");
+
+        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+            ws.Type(IDC_WS_TITLE, "Valdorian Campaign, second year");
+            ws.Click(IDC_WS_LEADER_FACES_ON);  // on: off, and its path forgotten
+            ws.Click(IDC_WS_ACCEPT);
+        });
+        user.Command(ID_FILE_PROPERTIES);
+        EXPECT_EQ(main.m_pWorkspace->m_strTitle, "Valdorian Campaign, second year");
+        EXPECT_EQ(main.m_pWorkspace->m_nPictureFlags[CWorkspace::LEADER_FACES], 0);
+        ExpectStatus(user, " ", "*");
+    });
+    EXPECT_EQ(ReadFileBytes(folder / "harnwick.txt"),
+              WithReplaced(WithReplaced(ReadFileBytes(std::string(HW_SAMPLE_DIR) + "/harnwick.txt"),
+                                        "Valdorian Campaign|", "Valdorian Campaign, second year|"),
+                           "1|leaders.bmp|", "0|empty|"));
+}
+
+// New and Load clear the tree, and with it the mark, so that Paste never reaches a deleted
+// entry.
+TEST_F(FileCommandsTest, LoadClearsTheClipboard) {
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        Load(user, folder / "harnwick.txt");
+        main.m_nClipMode = 1;
+        main.m_hMarked = main.m_tree.GetRootItem();
+        main.m_strMarkedCaption = "Marked item [Cut]";
+        main.m_strMarkedName = "Royal Army of Valdoria";
+        main.UpdateData(false);
+        Load(user, folder / "harnwick.txt");
+        EXPECT_EQ(main.m_nClipMode, 0);
+        EXPECT_EQ(main.m_hMarked, nullptr);
+        EXPECT_EQ(user.Text(IDC_MARKED_CAPTION), "Marked item");
+        EXPECT_EQ(user.Text(IDC_MARKED_NAME), "empty");
+    });
+}
+
+struct UnknownTypeCase {
+    Script answer;
+    std::uint8_t unitClass;
+};
+
+// A unit of a type the game data lacks: the reader's "Warning!" message, then "Select unit
+// class" with the unit's line; the answer becomes the new type's class (Escape: infantry).
+TEST_F(FileCommandsTest, AnUnknownUnitTypeIsAskedAboutThroughTheMainWindow) {
+    WriteFileBytes(folder / "odd.oob",
+                   "3\r\nA Odd Army\r\n\tBegin\r\n\tU 26 4 Zouaves Musket 3 0 2 Zouave Company\r\n"
+                   "\tEnd\r\n");
+    const std::vector<UnknownTypeCase> cases = {
+        {[](CHeadlessUser& u) { u.Escape(); }, 1},
+        {[](CHeadlessUser& u) { u.Click(IDC_CLASS_CAVALRY); }, 2},
+        {[](CHeadlessUser& u) { u.Click(IDC_CLASS_ARTILLERY); }, 3},
+    };
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        for (const UnknownTypeCase& c : cases) {
+            ui.AnswerMessage(IDYES);
+            ui.AnswerFileDialog(folder / "odd.txt");
+            ui.AnswerFileDialog(folder / "odd.oob");
+            ui.AnswerFileDialog(folder / "valdoria.inf");
+            ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+                ws.Click(IDC_WS_OOB_PICK);
+                ws.Click(IDC_WS_TARGET_PICK);
+                ws.Click(IDC_WS_ACCEPT);
+            });
+            ui.AnswerMessage(
+                "Entry : U 26 4 Zouaves Musket 3 0 2 Zouave Company\nUknown unit "
+                "type : [Zouaves]",
+                IDOK);
+            ui.OnDialog(IDD_UNIT_CLASS, [&c](CHeadlessUser& question) {
+                EXPECT_EQ(question.Text(IDC_CLASS_LINE),
+                          "U 26 4 Zouaves Musket 3 0 2 Zouave Company");
+                c.answer(question);
+            });
+            ui.AnswerMessage(IDOK);  // and its weapon
+            user.Command(ID_FILE_NEW_EXISTING);
+            const auto& type =
+                static_cast<const CTypeRecord&>(*main.m_pDatabase->m_Types.Head()->m_pPayload);
+            EXPECT_EQ(type.m_strType, "Zouaves");
+            EXPECT_EQ(type.ClassCode(), c.unitClass);
+            EXPECT_EQ(main.m_tree.GetCount(), 2u);
+        }
+    });
+    for (const CShownMessage& shown : ui.Messages()) {
+        if (shown.caption != "New" && shown.caption != "Exit") {
+            EXPECT_EQ(shown.caption, "Warning!");
+            EXPECT_EQ(shown.type, unsigned{MB_OK | MB_ICONEXCLAMATION});
+        }
+    }
+}
+}  // namespace
