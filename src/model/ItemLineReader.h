@@ -20,12 +20,17 @@ public:
         ++m_tokenizer.Position();
         return StoreTruncated<Int>(value);
     }
-    // One word: the name of a record.
+    // One word: the name of a record. A normalised line has no empty fields, so an empty word
+    // means the line ended before it.
     std::string_view Word() {
         const std::string_view word = m_tokenizer.ReadField();
         ++m_tokenizer.Position();
+        m_bWordMissing = m_bWordMissing || word.empty();
         return word;
     }
+    // True when the line ended before a record name it should hold. No line can name a record
+    // with an empty name, so the item could not be written back as it was read.
+    bool WordMissing() const { return m_bWordMissing; }
     // The rest of the line: the item's name, with its inner blanks.
     std::string_view Rest() const { return m_tokenizer.RestView(); }
     // The normalised line, as the warnings quote it.
@@ -33,4 +38,5 @@ public:
 
 private:
     CLineTokenizer& m_tokenizer;
+    bool m_bWordMissing = false;
 };

@@ -23,8 +23,11 @@ public:
     CLineWriter& operator=(const CLineWriter&) = delete;
 
     CLineWriter& Text(std::string_view text) {
-        std::memcpy(m_pNext, text.data(), text.size());
-        m_pNext += text.size();
+        // An empty view may point nowhere, and memcpy must not be given a null source.
+        if (!text.empty()) {
+            std::memcpy(m_pNext, text.data(), text.size());
+            m_pNext += text.size();
+        }
         return *this;
     }
     CLineWriter& Char(char c) {

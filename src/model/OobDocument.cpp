@@ -30,12 +30,16 @@ void WalkLines(const CTreeStore& tree, HTREEITEM start, Emit emit) {
     for (CTreeWalk walk(tree, start); !walk.Done();) {
         const int level = walk.Depth();
         const COobItem* item = ItemOf(tree, walk.Current());
-        const bool container = item && IsContainer(*item);
         const bool childless = walk.Current()->ChildCount() == 0;
+        // Armies and structures always open a block. Any other entry opens one only when it
+        // has children, which only a damaged file gives it: without the "Begin", its children
+        // would come back as its siblings, and the "End" lines of the climb after them would
+        // close blocks that were never opened.
+        const bool opensBlock = item && (IsContainer(*item) || !childless);
         if (item) {
             emit(level, item, {});
         }
-        if (container) {
+        if (opensBlock) {
             emit(level + 1, nullptr, "Begin");
             if (childless) {
                 emit(level + 1, nullptr, "End");
@@ -171,6 +175,12 @@ std::int16_t COobDocument::ReadNormalisedLine(CTreeStore& tree, COobReaderState&
     item->m_pKind = kind;
     CItemLineReader reader(m_tokenizer, kind);
     item->ReadFields(reader);
+    // A line cut short before the names of its records (a unit's type or weapon, a gunboat's
+    // weapon) is passed over: written back, its numbers would move into the empty name fields.
+    if (reader.WordMissing()) {
+        LinePassedOver(std::string(line));
+        return READ_OTHER;
+    }
     HTREEITEM entry =
         tree.InsertItem(std::move(item), state.parents[state.level - 1], state.insertAfter);
     if (!entry) {

@@ -33,7 +33,8 @@ void CUnitItem::ReadFields(CItemLineReader& reader) {
 // A type the game data lacks becomes a new type record at the head of the types, with the
 // class the user gives it, so that later lines of the same type find it and ask nothing.
 void CUnitItem::SettleUnknownType(std::string_view typeName, std::string_view line) {
-    if (!m_pDatabase) {
+    // No name, no record: the line ended before it, and the document passes such a line over.
+    if (!m_pDatabase || typeName.empty()) {
         return;
     }
     CReaderPrompts* prompts = m_pDatabase->m_pPrompts;
@@ -56,7 +57,7 @@ void CUnitItem::SettleUnknownType(std::string_view typeName, std::string_view li
 }
 
 void CUnitItem::SettleUnknownWeapon(std::string_view weaponName, std::string_view line) {
-    if (!m_pType) {
+    if (!m_pType || weaponName.empty()) {
         return;
     }
     if (m_pDatabase && m_pDatabase->m_pPrompts) {

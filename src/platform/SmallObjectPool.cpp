@@ -89,7 +89,7 @@ std::size_t PoolSlabBytes() {
     return Pool().SlabCount() * kSlabSize;
 }
 
-void PoolFree(void* block, std::size_t size) {
+void PoolFree(void* block, [[maybe_unused]] std::size_t size) {
     if (block == nullptr) {
         return;
     }
@@ -99,5 +99,6 @@ void PoolFree(void* block, std::size_t size) {
         return;
     }
 #endif
-    ::operator delete(block, size);
+    // The unsized form: clang declares the sized one only with -fsized-deallocation.
+    ::operator delete(block);
 }
