@@ -33,6 +33,7 @@ test-asan: build-asan
 test: build check-layers
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
 	$(MAKE) test-asan
+	$(MAKE) fuzz FUZZ_SECONDS=10
 
 # The editor, started in sample/ (the folder of its START.INI). Without a display it says how
 # to run it under a virtual X server, and does so when xvfb-run is there.
@@ -49,6 +50,20 @@ run: build
 	    echo "run: starting it so under xvfb-run (stop it with Ctrl-C)"; \
 	    cd sample && exec $(XVFB_RUN) $(EDITOR); \
 	fi
+
+# The libFuzzer targets, one per reader (clang), each run for FUZZ_SECONDS from its committed
+# corpus; new inputs go to $(FUZZ_BUILD)/fuzz-corpus, findings to $(FUZZ_BUILD)/fuzz-findings.
+FUZZ_BUILD   ?= build-fuzz
+FUZZ_SECONDS ?= 60
+
+$(FUZZ_BUILD)/build.ninja: | deps
+	CC=clang CXX=clang++ cmake -S . -B $(FUZZ_BUILD) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	    -DHARNWICK_FUZZ=ON -DHARNWICK_QT=OFF -DHARNWICK_BENCH=OFF
+
+fuzz: deps $(FUZZ_BUILD)/build.ninja
+	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_tokenizer fuzz_target_file fuzz_oob \
+	    fuzz_workspace fuzz_template fuzz_import
+	fuzz/run-fuzzers.sh $(FUZZ_BUILD) $(FUZZ_SECONDS)
 
 bench: deps
 	cmake -S . -B $(BUILD) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=RelWithDebInfo
@@ -68,4 +83,4 @@ check-layers:
 	    || { echo "Qt included outside src/platform/qt/"; exit 1; }
 
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD)
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)

@@ -1,0 +1,63 @@
+// What the fuzz targets share: a scratch file for the readers that take a path, the sample game
+// data that every order-of-battle reader needs, and checks that stop the run loudly.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "gamedata/GameDatabase.h"
+#include "model/OobDocument.h"
+#include "platform/TreeStore.h"
+
+// A broken invariant is a finding like a crash: the message names it, and abort() makes the
+// fuzzer keep the input.
+void Require(bool condition, const char* what);
+
+// Writes bytes to the file name in this process's own scratch folder (made once, removed at
+// exit) and returns its path.
+std::string WriteScratchFile(const char* name, std::string_view bytes);
+inline std::string WriteScratchFile(const char* name, const std::uint8_t* data, std::size_t size) {
+    return WriteScratchFile(name, std::string_view(reinterpret_cast<const char*>(data), size));
+}
+
+// The bytes of a file of the sample folder, read from disk once.
+const std::string& SampleText(const char* name);
+
+// A document on its own copy of the sample game data, with an empty tree. Reading an order of
+// battle may add unit types and weapons to the game data, so a copy is used again only when the
+// session that had it left it as read from the file (reading the file anew costs most of a run).
+struct COobSession {
+    COobSession();
+    ~COobSession();
+    COobSession(const COobSession&) = delete;
+    COobSession& operator=(const COobSession&) = delete;
+
+    std::unique_ptr<CGameDatabase> database;
+    COobDocument document;
+    CTreeStore tree;
+};
+
+// The tree's links agree with each other: every child names its parent and its row, the count
+// is the number of entries, every entry holds an item, and the caret is an entry of the tree.
+void RequireConsistentTree(const CTreeStore& tree);
+
+// The tree's shape with every entry's item as its line: depth, type code, line and label, one
+// entry per line. Two trees with the same outline hold the same items in the same places.
+std::string TreeOutline(const CTreeStore& tree);
+
+// True when an entry whose item is not an army or a structure has children. The writer puts
+// "Begin" and "End" only around the children of containers, so such a tree does not come back
+// the same from its own text.
+bool HasChildrenOutsideContainers(const CTreeStore& tree);
+
+// The order-of-battle reader's fixed point: text is what the writer made of some tree. Reading
+// it again (on fresh game data) and writing must give the same bytes. Returns the second
+// session, for callers that compare its tree; none when the text holds a line longer than the
+// reader takes. Lines of the format hold at most 254 characters, and the reader cuts longer
+// ones; only an item read from a long line of a damaged file and written deeper than it stood
+// (or with numbers that grew when cut to their width) makes the writer exceed that, and such a
+// line comes back cut.
+std::unique_ptr<COobSession> RequireOobFixedPoint(const std::string& text);

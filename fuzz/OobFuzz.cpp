@@ -1,0 +1,63 @@
+// The order-of-battle reader, its writer, the copy buffer and the reports, on the sample game
+// data: any file reads into a consistent tree, every report is made from it, and what the
+// writer makes of the tree is a fixed point of reading and writing.
+#include <cstddef>
+#include <cstdint>
+
+#include "FuzzSupport.h"
+#include "model/OobItem.h"
+#include "model/Result.h"
+#include "platform/LineStore.h"
+
+namespace {
+
+void MakeReports(COobSession& session) {
+    session.document.NumberLeaders(session.tree);
+    for (int flags = 0; flags <= (HTML_COSTS | HTML_IMAGES); ++flags) {
+        session.document.HtmlReport(session.tree, flags);
+    }
+    session.document.CostReport(session.tree);
+    session.document.LeaderReport(session.tree);
+    session.document.KeyReport(session.tree);
+}
+
+// The copy buffer holds the same lines without indentation; pasting them back and copying again
+// must give the same lines.
+void RequireCopyFixedPoint(COobSession& session) {
+    CLineStore copied;
+    session.document.CopyToList(session.tree, nullptr, copied);
+    COobSession pasted;
+    pasted.document.PasteFromList(pasted.tree, TVI_ROOT, TVI_LAST, copied);
+    RequireConsistentTree(pasted.tree);
+    CLineStore again;
+    pasted.document.CopyToList(pasted.tree, nullptr, again);
+    Require(again.GetCount() == copied.GetCount(), "pasted lines copy to a different count");
+    for (int i = 0; i < copied.GetCount(); ++i) {
+        Require(again.GetText(i) == copied.GetText(i), "pasted lines copy differently");
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    COobSession first;
+    Require(first.document.LoadTree(WriteScratchFile("input.oob", data, size), first.tree) ==
+                RESULT_DONE,
+            "the input file does not open");
+    RequireConsistentTree(first.tree);
+    MakeReports(first);
+
+    // Reading takes any input, damaged or not, so the first read need not come back from its
+    // own text: an item under a "Begin" that follows a unit hangs under the unit, but the writer
+    // puts "Begin" only after armies and structures, so the unit's children come back as its
+    // siblings. What the writer made must come back unchanged, and so must the tree itself
+    // whenever only armies and structures have children.
+    const std::string written = first.document.ToText(first.tree);
+    const auto second = RequireOobFixedPoint(written);
+    if (second && !HasChildrenOutsideContainers(first.tree)) {
+        Require(TreeOutline(second->tree) == TreeOutline(first.tree),
+                "an order of battle does not read back as the same tree");
+    }
+    RequireCopyFixedPoint(first);
+    return 0;
+}
