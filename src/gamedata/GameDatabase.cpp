@@ -34,6 +34,17 @@ private:
     CLineTokenizer m_tokenizer;
 };
 
+// Every record a section's line gives is kept, but a type without a name (a blank line, say):
+// no unit can name it, and written back, its cost modifier would move into the name. Its weapon
+// lines go with it.
+template <typename Record>
+bool IsKept(const Record&) {
+    return true;
+}
+bool IsKept(const CTypeRecord& type) {
+    return !type.m_strType.empty();
+}
+
 template <typename Record>
 void ReadSection(std::istream& in, CDataList& list) {
     for (;;) {
@@ -42,7 +53,9 @@ void ReadSection(std::istream& in, CDataList& list) {
         if (record->IsEnd()) {
             return;
         }
-        list.PushBack(std::move(record));
+        if (IsKept(*record)) {
+            list.PushBack(std::move(record));
+        }
     }
 }
 

@@ -129,7 +129,11 @@ void CTypeRecord::ReadFrom(std::istream& in) {
         if (weapon->IsEnd()) {
             break;
         }
-        m_Weapons.PushBack(std::move(weapon));
+        // A line without a weapon name (a blank line, say) names nothing a unit could use, and
+        // written back, its cost modifier would move into the name: it is passed over.
+        if (!weapon->m_strWeapon.empty()) {
+            m_Weapons.PushBack(std::move(weapon));
+        }
     }
 }
 

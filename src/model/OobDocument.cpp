@@ -57,6 +57,15 @@ void WalkLines(const CTreeStore& tree, HTREEITEM start, Emit emit) {
     }
 }
 
+// Entries above entry, itself included: 0 for the root, 1 for a top-level entry.
+int DepthOf(const CTreeStore& tree, HTREEITEM entry) {
+    int depth = 0;
+    for (HTREEITEM e = entry; e && e != TVI_ROOT; e = tree.GetParentItem(e)) {
+        ++depth;
+    }
+    return depth;
+}
+
 }  // namespace
 
 COobReaderState::COobReaderState(HTREEITEM parent, HTREEITEM after) : insertAfter(after) {
@@ -160,8 +169,8 @@ std::int16_t COobDocument::ReadNormalisedLine(CTreeStore& tree, COobReaderState&
     if (line.size() <= 2) {
         return READ_OTHER;
     }
-    // Items nested deeper than the parents table can hold are passed over.
-    if (state.level >= COobReaderState::kLevels) {
+    // Items nested deeper than the parents table, or than a file can hold, are passed over.
+    if (state.level > state.deepest) {
         LinePassedOver(std::string(line));
         return READ_OTHER;
     }
@@ -230,6 +239,7 @@ int COobDocument::InsertTemplate(const std::string& path, CTreeStore& tree, HTRE
         }
     }
     COobReaderState state(parent, insertAfter);
+    state.deepest = static_cast<std::int16_t>(COobReaderState::kLevels - 1 - DepthOf(tree, parent));
     for (;;) {
         const std::int16_t result = ReadLine(in, tree, state);
         if (result == READ_END || result == READ_TEMPLATE) {
@@ -242,6 +252,7 @@ int COobDocument::InsertTemplate(const std::string& path, CTreeStore& tree, HTRE
 int COobDocument::PasteFromList(CTreeStore& tree, HTREEITEM parent, HTREEITEM insertAfter,
                                 const CLineStore& list) {
     COobReaderState state(parent, insertAfter);
+    state.deepest = static_cast<std::int16_t>(COobReaderState::kLevels - 1 - DepthOf(tree, parent));
     for (int i = 0; i < list.GetCount(); ++i) {
         ReadLineText(list.GetText(i), tree, state);
     }

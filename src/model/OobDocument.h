@@ -38,6 +38,9 @@ struct COobReaderState {
     std::array<HTREEITEM, kLevels> parents{};
     HTREEITEM insertAfter = TVI_LAST;
     std::int16_t level = 1;
+    // The deepest level an item may take: items deeper would lie deeper in the tree than a file
+    // can hold (less than kLevels - 1 when the caller's parent is itself nested).
+    std::int16_t deepest = kLevels - 1;
 
     COobReaderState(HTREEITEM parent, HTREEITEM after);
 };
