@@ -85,6 +85,7 @@ int COobDocument::GetData(const std::string& path, CTreeStore& tree, int flags) 
     if (!in) {
         return RESULT_CANNOT_OPEN;
     }
+    CTreeStore::CBulkChange bulk(tree);
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
         if (COobItem* item = ItemOf(tree, walk.Current())) {
             item->m_nSeen = 0;

@@ -210,12 +210,16 @@ int COobDocument::LoadTree(const std::string& path, CTreeStore& tree) {
     }
     m_nLineNumber = 0;
     COobReaderState state(TVI_ROOT, TVI_LAST);
-    // Lines are taken up to their line feed; the characters after the last line feed are not
-    // read, as a line-by-line reader would meet the end of the file there.
-    std::size_t start = 0;
-    for (std::size_t feed; (feed = text.find('\n', start)) != std::string::npos; start = feed + 1) {
-        ReadRawLine(TrimLine(std::string_view(text).substr(start, feed - start)), tree, state,
-                    true);
+    {
+        CTreeStore::CBulkChange bulk(tree);
+        // Lines are taken up to their line feed; the characters after the last line feed are
+        // not read, as a line-by-line reader would meet the end of the file there.
+        std::size_t start = 0;
+        for (std::size_t feed; (feed = text.find('\n', start)) != std::string::npos;
+             start = feed + 1) {
+            ReadRawLine(TrimLine(std::string_view(text).substr(start, feed - start)), tree, state,
+                        true);
+        }
     }
     tree.SelectItem(tree.GetRootItem());
     return RESULT_DONE;

@@ -69,8 +69,8 @@ HTREEITEM CTreeStore::Insert(std::unique_ptr<CTreeEntry> entry, HTREEITEM parent
     entry->m_pParent = &owner;
     entry->m_nRow = static_cast<std::uint32_t>(row);
     HTREEITEM handle = entry.get();
-    if (m_pObserver) {
-        m_pObserver->BeforeInsert(&owner, row);
+    if (CTreeObserver* observer = Told()) {
+        observer->BeforeInsert(&owner, row);
     }
     // A parent's first child brings room for a few more: most echelons hold several.
     if (owner.m_children.empty()) {
@@ -82,16 +82,16 @@ HTREEITEM CTreeStore::Insert(std::unique_ptr<CTreeEntry> entry, HTREEITEM parent
         Renumber(owner, row + 1);
     }
     ++m_nCount;
-    if (m_pObserver) {
-        m_pObserver->AfterInsert(handle);
+    if (CTreeObserver* observer = Told()) {
+        observer->AfterInsert(handle);
     }
     return handle;
 }
 
 void CTreeStore::SetItemText(HTREEITEM entry, std::string label) {
     entry->m_pLabel = std::make_unique<std::string>(std::move(label));
-    if (m_pObserver) {
-        m_pObserver->LabelChanged(entry);
+    if (CTreeObserver* observer = Told()) {
+        observer->LabelChanged(entry);
     }
 }
 
@@ -152,8 +152,8 @@ bool CTreeStore::SelectItem(HTREEITEM entry) {
         return false;
     }
     m_hCaret = entry;
-    if (m_pObserver) {
-        m_pObserver->CaretChanged(entry);
+    if (CTreeObserver* observer = Told()) {
+        observer->CaretChanged(entry);
     }
     return true;
 }
@@ -189,22 +189,22 @@ bool CTreeStore::DeleteItem(HTREEITEM entry) {
         return false;
     }
     if (entry == TVI_ROOT || entry == m_pRoot.get()) {
-        if (m_pObserver) {
-            m_pObserver->BeforeReset();
+        if (CTreeObserver* observer = Told()) {
+            observer->BeforeReset();
         }
         m_hCaret = nullptr;
         DestroyChildren(*m_pRoot);
         m_nCount = 0;
-        if (m_pObserver) {
-            m_pObserver->AfterReset();
+        if (CTreeObserver* observer = Told()) {
+            observer->AfterReset();
         }
         return true;
     }
     if (m_hCaret && IsInSubtree(m_hCaret, entry)) {
         SelectItem(nullptr);
     }
-    if (m_pObserver) {
-        m_pObserver->BeforeRemove(entry);
+    if (CTreeObserver* observer = Told()) {
+        observer->BeforeRemove(entry);
     }
     CTreeEntry& parent = *entry->m_pParent;
     const std::size_t row = entry->m_nRow;
@@ -213,8 +213,8 @@ bool CTreeStore::DeleteItem(HTREEITEM entry) {
     Renumber(parent, row);
     m_nCount -= DestroyChildren(*owned) + 1;
     owned.reset();
-    if (m_pObserver) {
-        m_pObserver->AfterRemove();
+    if (CTreeObserver* observer = Told()) {
+        observer->AfterRemove();
     }
     return true;
 }
@@ -226,8 +226,22 @@ bool CTreeStore::Expand(HTREEITEM entry, TreeExpand how) {
     CTreeEntry& e = *Resolve(entry);
     const bool was = e.m_bExpanded;
     e.m_bExpanded = how == TVE_TOGGLE ? !was : how == TVE_EXPAND;
-    if (m_pObserver && was != e.m_bExpanded) {
-        m_pObserver->ExpandChanged(&e);
+    CTreeObserver* observer = Told();
+    if (observer && was != e.m_bExpanded) {
+        observer->ExpandChanged(&e);
     }
     return true;
+}
+
+void CTreeStore::BeginBulkChange() {
+    if (m_nBulk++ == 0 && m_pObserver) {
+        m_pObserver->BeforeReset();
+    }
+}
+
+void CTreeStore::EndBulkChange() {
+    if (--m_nBulk == 0 && m_pObserver) {
+        m_pObserver->AfterReset();
+        m_pObserver->CaretChanged(m_hCaret);
+    }
 }

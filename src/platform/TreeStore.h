@@ -120,6 +120,22 @@ public:
 
     void SetObserver(CTreeObserver* observer) { m_pObserver = observer; }
 
+    // Many changes at once (a whole file read in, an import): the observer hears one reset
+    // around them instead of every insertion and removal, so a view is not rebuilt a million
+    // times. Brackets nest.
+    void BeginBulkChange();
+    void EndBulkChange();
+    class CBulkChange {
+    public:
+        explicit CBulkChange(CTreeStore& tree) : m_tree(tree) { m_tree.BeginBulkChange(); }
+        ~CBulkChange() { m_tree.EndBulkChange(); }
+        CBulkChange(const CBulkChange&) = delete;
+        CBulkChange& operator=(const CBulkChange&) = delete;
+
+    private:
+        CTreeStore& m_tree;
+    };
+
 private:
     HTREEITEM Resolve(HTREEITEM parent) const;
     HTREEITEM Insert(std::unique_ptr<CTreeEntry> entry, HTREEITEM parent, HTREEITEM insertAfter);
@@ -130,4 +146,8 @@ private:
     HTREEITEM m_hCaret = nullptr;
     std::size_t m_nCount = 0;
     CTreeObserver* m_pObserver = nullptr;
+    int m_nBulk = 0;  // open bulk changes
+
+    // The observer to tell of a single change: none inside a bulk change.
+    CTreeObserver* Told() const { return m_nBulk > 0 ? nullptr : m_pObserver; }
 };
