@@ -94,7 +94,15 @@ void ShowFirstDifference(std::string_view first, std::string_view second) {
     std::fprintf(stderr, "first:  [%s]\nsecond: [%s]\n", show(first).c_str(), show(second).c_str());
 }
 
-// A line, without its line end, longer than the reader takes.
+}  // namespace
+
+void Require(bool condition, const char* what) {
+    if (!condition) {
+        std::fprintf(stderr, "fuzz check failed: %s\n", what);
+        std::abort();
+    }
+}
+
 bool HasOverLongLine(std::string_view text) {
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t feed = std::min(text.find('\n', start), text.size());
@@ -108,15 +116,6 @@ bool HasOverLongLine(std::string_view text) {
         start = feed + 1;
     }
     return false;
-}
-
-}  // namespace
-
-void Require(bool condition, const char* what) {
-    if (!condition) {
-        std::fprintf(stderr, "fuzz check failed: %s\n", what);
-        std::abort();
-    }
 }
 
 std::string WriteScratchFile(const char* name, std::string_view bytes) {

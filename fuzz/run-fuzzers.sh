@@ -6,7 +6,9 @@
 # the repository does not grow on every run. Crashes, hangs, leaks and failed checks are saved
 # in BUILD/fuzz-findings/<target>/ and stop the run with a failure.
 # With FUZZ_MERGE=1 the run ends by minimising the committed corpus together with the new inputs
-# into fuzz/corpus/<target> (for keeping what a run found).
+# into fuzz/corpus/<target> (for keeping what a run found). The merge counts edges only, not how
+# often each runs, so that the committed corpus stays at a few dozen small files; the scratch
+# corpus keeps the rest.
 set -eu
 
 build=$1
@@ -25,13 +27,18 @@ for target in $targets; do
         -dict="$here/harnwick.dict" -max_total_time="$seconds" \
         -timeout=2 -rss_limit_mb=2560 -malloc_limit_mb=256 \
         -artifact_prefix="$findings/" -print_final_stats=1 2>"$build/fuzz-$target.log" \
-        || { tail -n 60 "$build/fuzz-$target.log"; echo "fuzz: $target found a fault, saved in $findings"; exit 1; }
+        || {
+            grep -E 'fuzz check failed|first:|second:|runtime error|ERROR:|SUMMARY|Test unit written' \
+                "$build/fuzz-$target.log"
+            echo "fuzz: $target found a fault, saved in $findings (log: $build/fuzz-$target.log)"
+            exit 1
+        }
     grep -E '^(Done|stat::number_of_executed_units|stat::average_exec_per_sec|stat::new_units_added|stat::peak_rss_mb)' \
         "$build/fuzz-$target.log" | sed "s/^/fuzz: $target: /"
     if [ "${FUZZ_MERGE:-0}" = 1 ]; then
         merged=$build/fuzz-merged/$target
         rm -rf "$merged" && mkdir -p "$merged"
-        "$build/fuzz/fuzz_$target" -merge=1 "$merged" "$committed" "$scratch" \
+        "$build/fuzz/fuzz_$target" -merge=1 -use_counters=0 "$merged" "$committed" "$scratch" \
             -dict="$here/harnwick.dict" -timeout=2 -rss_limit_mb=2560 -malloc_limit_mb=256 \
             2>"$build/fuzz-$target-merge.log"
         rm -f "$committed"/* && cp "$merged"/* "$committed"/
