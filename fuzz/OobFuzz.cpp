@@ -48,10 +48,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     MakeReports(first);
 
     // Reading takes any input, damaged or not, so the first read need not come back from its
-    // own text: an item under a "Begin" that follows a unit hangs under the unit, but the writer
-    // puts "Begin" only after armies and structures, so the unit's children come back as its
-    // siblings. What the writer made must come back unchanged, and so must the tree itself
-    // whenever only armies and structures have children.
+    // own text: what the writer made of it must come back unchanged, and the tree itself too
+    // whenever only armies and structures have children. A "Begin" after a unit in a damaged
+    // file hangs the next items under the unit; the writer puts a "Begin" after any entry with
+    // children, but such a tree is outside the format, which promises blocks only after armies
+    // and structures, so it is held to the fixed point alone.
     const std::string written = first.document.ToText(first.tree);
     const auto second = RequireOobFixedPoint(written);
     if (second && !HasChildrenOutsideContainers(first.tree)) {
