@@ -46,8 +46,8 @@ TEST(LineTokenizer, ReadsNumbersAsTheGameWritesThem) {
         const char* field;
         double value;
     } cases[] = {
-        {"-7", -7},     {"0.25", 0.25}, {"12abc", 12}, {"1.5.3", 1.53}, {"abc", 0},
-        {"4-2", 42},    {"", 0},        {"007", 7},    {"3.", 3},       {"-0.5", -0.5},
+        {"-7", -7},  {"0.25", 0.25}, {"12abc", 12}, {"1.5.3", 1.53}, {"abc", 0},
+        {"4-2", 42}, {"", 0},        {"007", 7},    {"3.", 3},       {"-0.5", -0.5},
     };
     for (const auto& c : cases) {
         CLineTokenizer t = Tokenize(' ', c.field);
