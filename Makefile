@@ -67,8 +67,10 @@ fuzz: deps $(FUZZ_BUILD)/build.ninja
 
 bench: deps
 	cmake -S . -B $(BUILD) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=RelWithDebInfo
-	cmake --build $(BUILD) -j $(JOBS) --target harnwick-bench
+	cmake --build $(BUILD) -j $(JOBS) --target harnwick-bench harnwick-qt-bench
 	$(BUILD)/bench/harnwick-bench
+	@echo
+	$(BUILD)/bench/harnwick-qt-bench
 
 format:
 	find src tests bench fuzz -name '*.cpp' -o -name '*.h' | xargs clang-format -i
