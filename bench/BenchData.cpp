@@ -1,6 +1,7 @@
 #include "BenchData.h"
 
 #include <cstdint>
+#include <fstream>
 #include <string_view>
 #include <vector>
 
@@ -199,4 +200,8 @@ std::string MakeBenchGameFile(const CTreeStore& tree) {
     }
     Line(out, 0, "0");
     return out;
+}
+
+void WriteBytes(const std::string& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
 }

@@ -15,6 +15,9 @@ std::string MakeBenchTarget();
 // finish the last brigade).
 std::string MakeBenchOob(std::size_t entries);
 
+// Writes bytes to path as they are.
+void WriteBytes(const std::string& path, const std::string& bytes);
+
 // A game file that names every unit and supply of tree by its key (record 1) and lists every
 // leader (record 2).
 std::string MakeBenchGameFile(const CTreeStore& tree);

@@ -21,6 +21,10 @@ double BestSeconds(int runs, const std::function<void()>& work,
     return best;
 }
 
+double PerEntry(double seconds, std::size_t entries) {
+    return seconds * 1e9 / static_cast<double>(entries);
+}
+
 // The general allocator's blocks in use (mapped ones too: the pool's slabs are among them), less
 // the pool's free blocks: what the program holds.
 std::size_t HeapInUse() {

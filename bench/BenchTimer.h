@@ -8,5 +8,8 @@
 double BestSeconds(
     int runs, const std::function<void()>& work, const std::function<void()>& setup = [] {});
 
+// Seconds for entries entries, in nanoseconds per entry.
+double PerEntry(double seconds, std::size_t entries);
+
 // Bytes the allocator has handed out and not yet taken back.
 std::size_t HeapInUse();

@@ -14,7 +14,6 @@
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 
@@ -126,14 +125,6 @@ WindowRun LoadIntoWindow(const CQtBackend& backend, const std::string& workspace
     return run;
 }
 
-void WriteBytes(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
-double PerEntry(double seconds, std::size_t entries) {
-    return seconds * 1e9 / static_cast<double>(entries);
-}
-
 }  // namespace
 
 // The figures are those of Qt's offscreen platform, whatever display there may be.
@@ -147,9 +138,9 @@ int main(int argc, char** argv) {
     fs::create_directories(folder);
     // The main window reads its start folder from START.INI in the current folder.
     fs::current_path(folder);
-    WriteBytes(folder / "START.INI", folder.string() + "\n");
+    WriteBytes((folder / "START.INI").string(), folder.string() + "\n");
     const fs::path targetPath = folder / "bench.inf";
-    WriteBytes(targetPath, MakeBenchTarget());
+    WriteBytes(targetPath.string(), MakeBenchTarget());
     CGameDatabase database;
     database.Load(targetPath.string());
 
@@ -158,7 +149,7 @@ int main(int argc, char** argv) {
     std::size_t entries = 0;
     for (std::size_t size : {10000u, 100000u, 1000000u}) {
         const fs::path oobPath = folder / ("bench" + std::to_string(size) + ".oob");
-        WriteBytes(oobPath, MakeBenchOob(size));
+        WriteBytes(oobPath.string(), MakeBenchOob(size));
         CWorkspace workspace;
         workspace.m_strTitle = "Bench";
         workspace.m_strOobFile = oobPath.string();

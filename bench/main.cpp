@@ -23,10 +23,6 @@ namespace fs = std::filesystem;
 
 constexpr int kRuns = 3;
 
-void WriteBytes(const std::string& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
 std::size_t RawScan(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     std::string line;
@@ -97,10 +93,6 @@ Figures Measure(const fs::path& folder, CGameDatabase& database, std::size_t siz
         document.GetData(gamePath, *tree, IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY);
     });
     return f;
-}
-
-double PerEntry(double seconds, std::size_t entries) {
-    return seconds * 1e9 / static_cast<double>(entries);
 }
 
 void Report(const char* what, double ratio, double limit) {
