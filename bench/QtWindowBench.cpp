@@ -110,6 +110,8 @@ WindowRun LoadIntoWindow(const CQtBackend& backend, const std::string& workspace
         }
         CPaintWatch watch;
         view->viewport()->installEventFilter(&watch);
+        // Painted once, whether or not the window was shown before the watch began.
+        view->viewport()->update();
         ProcessUntilPainted(watch);
 
         const auto start = std::chrono::steady_clock::now();
