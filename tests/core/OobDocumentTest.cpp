@@ -114,29 +114,42 @@ TEST_F(OobDocument, SaveAndLoadGiveTheSameTreeAndBytes) {
     EXPECT_EQ(m_doc.m_strName, saved);
 }
 
-// A last line without a line break is never read, by the file reader or the template reader.
-TEST_F(OobDocument, LastLineWithoutLineBreakIsLost) {
-    const std::string text = kUnit + "Kept\r\n" + kUnit + "Lost";
+// Block lines are recognised on the normalised line only when they are the whole line; "End"
+// with no open block closes nothing; lines of no item class are passed over and reported.
+TEST_F(OobDocument, ReadsOddLinesAsDecided) {
+    const struct {
+        std::string text, shape;
+        std::vector<std::string> passedOver;
+    } cases[] = {
+        {"A Army\n\tBegin  \n\tL 4 7 0 Marshal Orm\nBegin x\n\t" + kUnit + "Foot\n",
+         "Army(Marshal Orm Foot)",
+         {"5:Begin x"}},
+        {kUnit + "a\nEnd\nEnd\nA Army\n\tBegin\n\t" + kUnit + "b\n", "a Army(b)", {}},
+        {"X 1 2 Stray\n" + kUnit + "Kept\nab\nY Other\nZed unknown\n\n",
+         "Kept",
+         {"2:X 1 2 Stray", "5:Y Other", "6:Zed unknown"}},
+    };
+    for (const auto& c : cases) {
+        m_doc.m_passedOver.clear();
+        m_tree.DeleteAllItems();
+        Load("3\n" + c.text);
+        EXPECT_EQ(Shape(m_tree), c.shape);
+        EXPECT_EQ(m_doc.m_passedOver, c.passedOver);
+    }
+}
+
+// The file reader and the template reader alike: a line is cut at 254 characters, the rest of
+// it not spilling into the next line, and a last line without a line break is never read.
+TEST_F(OobDocument, LongAndUnendedLines) {
+    const std::string prefix = "U 10 3 Foot Musket 1 2 ";
+    const std::string text =
+        prefix + std::string(280, 'N') + "\r\n" + prefix + "Next\r\n" + kUnit + "Lost";
     Load("3\r\n" + text);
-    EXPECT_EQ(Shape(m_tree), "Kept");
+    const std::string shape = std::string(254 - prefix.size(), 'N') + " Next";
+    EXPECT_EQ(Shape(m_tree), shape);
     CTreeStore inserted;
-    ASSERT_EQ(m_doc.InsertTemplate(File("t.tpl", text), inserted, TVI_ROOT, TVI_LAST, 0),
-              RESULT_DONE);
-    EXPECT_EQ(Shape(inserted), "Kept");
-}
-
-// Block lines are recognised on the normalised line only when they are the whole line.
-TEST_F(OobDocument, BeginIsAWholeLineAndAnythingMoreIsAnItemLine) {
-    Load("3\nA Army\n\tBegin  \n\tL 4 7 0 Marshal Orm\nBegin x\n\t" + kUnit + "Foot\n");
-    EXPECT_EQ(Shape(m_tree), "Army(Marshal Orm Foot)");
-    EXPECT_EQ(m_doc.m_passedOver, std::vector<std::string>{"5:Begin x"});
-}
-
-TEST_F(OobDocument, LinesOfNoItemClassArePassedOverAndReported) {
-    Load("3\nX 1 2 Stray\n" + kUnit + "Kept\nab\nY Other\nZed unknown\n\n");
-    EXPECT_EQ(Shape(m_tree), "Kept");
-    EXPECT_EQ(m_doc.m_passedOver,
-              (std::vector<std::string>{"2:X 1 2 Stray", "5:Y Other", "6:Zed unknown"}));
+    m_doc.InsertTemplate(File("long.tpl", text), inserted, TVI_ROOT, TVI_LAST, 0);
+    EXPECT_EQ(Shape(inserted), shape);
 }
 
 class Templates : public OobDocument {
@@ -216,12 +229,8 @@ TEST_F(OobDocument, CopyToListHoldsTheLinesWithoutTabs) {
     for (int i = 0; i < list.GetCount(); ++i) {
         joined += list.GetText(i) + "\n";
     }
-    std::string untabbed;
-    for (char c : std::string(kGolden)) {
-        if (c != '\t') {
-            untabbed += c;
-        }
-    }
+    std::string untabbed = kGolden;
+    std::erase(untabbed, '\t');
     EXPECT_EQ(joined, untabbed);
     m_doc.CopyToList(m_tree, Find("Iron Brigade"), list);
     EXPECT_EQ(list.GetCount(), 5);
@@ -262,12 +271,6 @@ TEST_F(OobDocument, LeadersAreNumberedInTreeOrder) {
     EXPECT_EQ(numbers, "0123");
 }
 
-// "End" with no open block closes nothing: the next block opens under the right item.
-TEST_F(OobDocument, SurplusEndClosesNothing) {
-    Load("3\n" + kUnit + "a\nEnd\nEnd\nA Army\n\tBegin\n\t" + kUnit + "b\n");
-    EXPECT_EQ(Shape(m_tree), "a Army(b)");
-}
-
 // Nesting is counted past the parents table, so the "End" lines of blocks too deep to hold
 // items still close them; the items inside are passed over.
 TEST_F(OobDocument, BlocksDeeperThanTheParentsTableAreCountedButNotFilled) {
@@ -284,18 +287,6 @@ TEST_F(OobDocument, BlocksDeeperThanTheParentsTableAreCountedButNotFilled) {
     EXPECT_EQ(m_doc.m_passedOver,
               (std::vector<std::string>{"20:B L10", "22:B L11", "24:B L12", "26:" + kUnit + "deep",
                                         "30:" + kUnit + "still deep"}));
-}
-
-// A line is cut at 254 characters; the rest of it does not spill into the next line.
-TEST_F(OobDocument, OverLongLinesAreCut) {
-    const std::string prefix = "U 10 3 Foot Musket 1 2 ";
-    const std::string text = prefix + std::string(280, 'N') + "\r\n" + prefix + "Next\r\n";
-    Load("3\r\n" + text);
-    const std::string cut = std::string(254 - prefix.size(), 'N');
-    EXPECT_EQ(Shape(m_tree), cut + " Next");
-    CTreeStore inserted;
-    m_doc.InsertTemplate(File("long.tpl", text), inserted, TVI_ROOT, TVI_LAST, 0);
-    EXPECT_EQ(Shape(inserted), cut + " Next");
 }
 
 }  // namespace

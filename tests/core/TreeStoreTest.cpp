@@ -91,18 +91,6 @@ TEST(TreeStore, DeleteReleasesTheSubtreesDataAndItsCaret) {
     EXPECT_EQ(destroyed, 7);  // the store releases what is left when it goes
 }
 
-TEST(TreeStore, ExpandsCollapsesAndToggles) {
-    CTreeStore tree;
-    HTREEITEM a = BuildTree(tree, {"A", " B"})["A"];
-    const std::pair<TreeExpand, bool> steps[] = {
-        {TVE_EXPAND, true}, {TVE_EXPAND, true}, {TVE_TOGGLE, false}, {TVE_COLLAPSE, false}};
-    for (const auto& [how, expanded] : steps) {
-        EXPECT_TRUE(tree.Expand(a, how));
-        EXPECT_EQ(a->Expanded(), expanded) << how;
-    }
-    EXPECT_FALSE(tree.Expand(nullptr, TVE_EXPAND));
-}
-
 // Records every notification with the entry count and the data destroyed at that moment.
 class CRecordingObserver : public CTreeObserver {
 public:

@@ -68,28 +68,21 @@ protected:
     QWidget* window = nullptr;
 };
 
+// Typing drops what Windows-1252 cannot hold and what the limit or the digits style refuses.
 TEST_F(QtEventsTest, FocusLostRunsBeforeTheClickThatTookTheFocus) {
     Run([&] {
         auto* edit = Widget<QLineEdit>(101);
         EXPECT_EQ(QApplication::focusWidget(), edit);
-        Type(edit, QString::fromUtf8("Gen. Lef\u00E8vre"));
-        QTest::mouseClick(Widget<QPushButton>(200), Qt::LeftButton);
+        Type(edit, QString::fromUtf8("Gen. Lef\u00E8vre\u041A\u043E"));
         EXPECT_EQ(dlg.GetDlgItem(101)->GetWindowText(), "Gen. Lef\xE8vre");
-        EXPECT_EQ(dlg.GetFocusId(), 200);
-    });
-    EXPECT_EQ(dlg.log, (std::vector<std::string>{"kill 101", "click 200"}));
-}
-
-TEST_F(QtEventsTest, TypingRefusesWhatTheEditCannotHold) {
-    Run([&] {
-        auto* name = Widget<QLineEdit>(101);
-        Type(name, QString::fromUtf8("\u041A\u043E\u0440\u043F\u0443\u0441 A"));
-        EXPECT_EQ(dlg.GetDlgItem(101)->GetWindowText(), " A");
         auto* strength = Widget<QLineEdit>(102);
-        strength->setFocus();
+        QTest::mouseClick(strength, Qt::LeftButton);
         QTest::keyClicks(strength, "12a345");
         EXPECT_EQ(dlg.GetDlgItem(102)->GetWindowText(), "1234");
+        QTest::mouseClick(Widget<QPushButton>(200), Qt::LeftButton);
+        EXPECT_EQ(dlg.GetFocusId(), 200);
     });
+    EXPECT_EQ(dlg.log, (std::vector<std::string>{"kill 101", "kill 102", "click 200"}));
 }
 
 TEST_F(QtEventsTest, EnterPressesTheHiddenDefaultButtonWhichMovesTheFocus) {
@@ -108,8 +101,6 @@ TEST_F(QtEventsTest, EnterPressesTheHiddenDefaultButtonWhichMovesTheFocus) {
 TEST_F(QtEventsTest, ADropDownSelectionReachesItsHandlerAndTheState) {
     Run([&] {
         auto* combo = Widget<QComboBox>(104);
-        EXPECT_EQ(combo->currentIndex(), 0);
-        EXPECT_EQ(combo->count(), 3);
         QTest::keyClick(combo, Qt::Key_Down);
         EXPECT_EQ(dlg.GetDlgItem(104)->Lines().GetCurSel(), 1);
         dlg.GetDlgItem(104)->Lines().SetCurSel(2);

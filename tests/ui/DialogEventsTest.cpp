@@ -2,8 +2,6 @@
 // gestures, and what the headless backend refuses or reports.
 #include <gtest/gtest.h>
 
-#include <array>
-
 #include "HeadlessTest.h"
 #include "TestDialog.h"
 #include "platform/FileDialog.h"
@@ -192,28 +190,6 @@ TEST_F(DialogEventsTest, WhatTheTestDidNotScriptFailsNamingWhatItShowed) {
               }));
 }
 
-TEST_F(DialogEventsTest, FileChoosersTakeTheScriptedPathWithTheDefaultExtension) {
-    ui.AnswerFileDialog("/data/army");
-    ui.AnswerFileDialog("/data/army.txt");
-    ui.CancelFileDialog();
-    Run([](CHeadlessUser& user) {
-        CFileDialog save(false, "oob", "", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
-                         "OOB Files (*.oob)|*.oob|Text Files (*.txt)|*.txt|", &user.Dialog());
-        save.m_strInitialDir = "/data";
-        ASSERT_EQ(save.DoModal(), IDOK);
-        EXPECT_EQ(save.GetPathName(), "/data/army.oob");
-        ASSERT_EQ(save.DoModal(), IDOK);
-        EXPECT_EQ(save.GetPathName(), "/data/army.txt");
-        EXPECT_EQ(save.DoModal(), IDCANCEL);
-    });
-    ASSERT_EQ(ui.FileDialogs().size(), 3u);
-    const CShownFileDialog& shown = ui.FileDialogs()[0];
-    EXPECT_FALSE(shown.open);
-    EXPECT_EQ(shown.initialDir, "/data");
-    ASSERT_EQ(shown.filters.size(), 2u);
-    EXPECT_EQ(shown.filters[1].pattern, "*.txt");
-}
-
 TEST(FileFilter, SplitsIntoDescriptionAndPatternPairs) {
     const auto filters = ParseFileFilter("HTML Files (*.html)|*.html|HTM Files (*.htm)|*.htm|");
     ASSERT_EQ(filters.size(), 2u);
@@ -249,18 +225,6 @@ TEST_F(DialogEventsTest, AFrameGivesItsClientSizeAndAControlCanBeMovedAndResized
         user.Escape();
     });
     summary.DoModal();
-}
-
-TEST_F(DialogEventsTest, PaintingDrawsWhatTheDialogPaints) {
-    const CPixelImage strip{4, 2, std::vector<std::uint32_t>(8, 0xFF336699)};
-    dlg.paint = [&](CPaintDC& dc) { dc.BitBlt(10, 12, 2, 2, strip, 2, 0); };
-    Run([&](CHeadlessUser& user) {
-        const auto& ops = user.Paint().Ops();
-        ASSERT_EQ(ops.size(), 1u);
-        EXPECT_EQ(ops[0].kind, CPaintOp::Kind::BitBlt);
-        EXPECT_EQ((std::array{ops[0].x, ops[0].y, ops[0].srcX}), (std::array{10, 12, 2}));
-        EXPECT_EQ(ops[0].image, &strip);
-    });
 }
 
 TEST_F(DialogEventsTest, APopupMenuRunsTheChosenCommand) {
