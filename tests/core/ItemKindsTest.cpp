@@ -33,39 +33,28 @@ const char* RecordName(const std::string* name) {
 std::string Fields(const COobItem& item) {
     const char* type = RecordName(item.m_pType ? &item.m_pType->m_strType : nullptr);
     const char* weapon = RecordName(item.m_pWeapon ? &item.m_pWeapon->m_strWeapon : nullptr);
-    std::string fields;
-    switch (item.m_nType) {
-        case TYPE_UNIT: {
-            const auto& u = static_cast<const CUnitItem&>(item);
-            fields = Format("%d %d %s %s %d %d %d", u.m_nStrength, u.m_nQuality, type, weapon,
-                            u.m_nPicture, u.m_nReserved, u.m_nIcon);
-            break;
-        }
-        case TYPE_LEADER: {
-            const auto& l = static_cast<const CLeaderItem&>(item);
-            fields = Format("%s %d %d %d", type, l.m_nLeadership, l.m_nThird, l.m_nLeaderNumber);
-            break;
-        }
-        case TYPE_SUPPLY: {
-            const auto& s = static_cast<const CSupplyItem&>(item);
-            fields = Format("%s %d %d", type, s.m_nSupply, s.m_nPicture);
-            break;
-        }
-        case TYPE_DEPOT: {
-            const auto& d = static_cast<const CDepotItem&>(item);
-            fields = Format("%s %d %d", type, d.m_nSupply, d.m_nNumber);
-            break;
-        }
-        case TYPE_GUNBOAT: {
-            const auto& g = static_cast<const CGunboatItem&>(item);
-            fields =
-                Format("%s %d %d %s %d", type, g.m_nStrength, g.m_nQuality, weapon, g.m_nPicture);
-            break;
-        }
-        default:
-            fields = type;
+    const std::string name = "|" + item.m_strName;
+    if (const auto* u = dynamic_cast<const CUnitItem*>(&item)) {
+        return Format("%d %d %s %s %d %d %d", u->m_nStrength, u->m_nQuality, type, weapon,
+                      u->m_nPicture, u->m_nReserved, u->m_nIcon) +
+               name;
     }
-    return fields + "|" + item.m_strName;
+    if (const auto* l = dynamic_cast<const CLeaderItem*>(&item)) {
+        return Format("%s %d %d %d", type, l->m_nLeadership, l->m_nThird, l->m_nLeaderNumber) +
+               name;
+    }
+    if (const auto* d = dynamic_cast<const CDepotItem*>(&item)) {
+        return Format("%s %d %d", type, d->m_nSupply, d->m_nNumber) + name;
+    }
+    if (const auto* s = dynamic_cast<const CSupplyItem*>(&item)) {
+        return Format("%s %d %d", type, s->m_nSupply, s->m_nPicture) + name;
+    }
+    if (const auto* g = dynamic_cast<const CGunboatItem*>(&item)) {
+        return Format("%s %d %d %s %d", type, g->m_nStrength, g->m_nQuality, weapon,
+                      g->m_nPicture) +
+               name;
+    }
+    return type + name;
 }
 
 class ItemKinds : public ::testing::Test {

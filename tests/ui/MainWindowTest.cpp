@@ -14,7 +14,7 @@ protected:
     // Runs the main window with script, and quits it afterwards.
     int Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script,
             const std::string& startIni = ".\n") {
-        WriteFileBytes(folder / "START.INI", startIni);
+        WriteBytes(folder / "START.INI", startIni);
         ui.OnDialog(IDD_HARNWICK_DIALOG, [&](CHeadlessUser& user) {
             script(user, static_cast<CMainDlg&>(user.Dialog()));
             if (user.Dialog().IsRunning()) {
@@ -131,7 +131,7 @@ TEST_F(MainWindowTest, TheRightClickMenuOpensBesideTheSelectedEntry) {
 }
 
 TEST_F(MainWindowTest, TheApplicationRunsTheMainWindowAndEnds) {
-    WriteFileBytes(folder / "START.INI", ".\n");
+    WriteBytes(folder / "START.INI", ".\n");
     CEditorApp app;
     ui.AnswerMessage("Do you want to quit?", IDYES);
     ui.OnDialog(IDD_HARNWICK_DIALOG, [&app](CHeadlessUser& user) {

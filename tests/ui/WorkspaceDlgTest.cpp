@@ -134,7 +134,7 @@ TEST_F(WorkspaceDlgTest, AcceptSavesEveryFieldToTheWorkspaceFile) {
     });
     EXPECT_EQ(result, 1);
     EXPECT_EQ(workspace.m_strTitle, "Southern Marches");
-    EXPECT_EQ(ReadFileBytes(folder / "campaign.txt"),
+    EXPECT_EQ(ReadBytes(folder / "campaign.txt"),
               "Southern Marches|\r\n/designs/army.oob|\r\nmarches.bak|\r\nmarches.inf|\r\n"
               "1|art/units.bmp|\r\n1|/designs/art/leaders.bmp|\r\n0|empty|\r\n0|empty|\r\n"
               "0|empty|\r\n");
