@@ -6,13 +6,13 @@
 #include <sstream>
 #include <string>
 
+#include "SmallGameData.h"
 #include "TempFolder.h"
 #include "app/Workspace.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
-#include "model/ReaderPrompts.h"
 #include "model/Result.h"
 #include "model/TextLines.h"
 #include "model/TreeWalk.h"
@@ -35,16 +35,6 @@ std::size_t CountItemLines(const std::string& text) {
     return count;
 }
 
-// The sample names only records its game data holds, so any question is a fault.
-class CNoQuestions : public CReaderPrompts {
-public:
-    void Warning(const std::string& text) override { ADD_FAILURE() << text; }
-    int AskUnitClass(const std::string& line) override {
-        ADD_FAILURE() << line;
-        return 1;
-    }
-};
-
 class SampleWorkspace : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -52,8 +42,12 @@ protected:
         m_database.m_pPrompts = &m_prompts;
         m_document.m_pDatabase = &m_database;
     }
+    // The sample names only records its game data holds, so any question is a fault.
+    void TearDown() override {
+        EXPECT_EQ(m_prompts.m_warnings.size() + m_prompts.m_questions.size(), 0u);
+    }
 
-    CNoQuestions m_prompts;
+    CRecordingPrompts m_prompts;
     CGameDatabase m_database;
     COobDocument m_document;
 };
