@@ -51,7 +51,7 @@ protected:
     }
 
     HTREEITEM Find(const std::string& name) const { return FindLabel(m_tree, name); }
-    std::string Shape() const { return ::Shape(m_tree); }
+    std::string Shape(HTREEITEM parent = TVI_ROOT) const { return ::Shape(m_tree, parent); }
 
     CGameDatabase m_db;
     COobDocument m_doc;
