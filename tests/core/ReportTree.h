@@ -4,10 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <sstream>
 #include <string>
+#include <vector>
 
+#include "TestTrees.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
@@ -41,35 +42,16 @@ protected:
 
     // Fills the tree from order-of-battle lines (no indentation needed: "Begin" and "End"
     // carry the nesting).
-    void Build(std::initializer_list<const char*> lines) {
+    void Build(const std::vector<std::string>& lines) {
         CLineStore list;
-        for (const char* line : lines) {
+        for (const std::string& line : lines) {
             list.AddString(line);
         }
         m_doc.PasteFromList(m_tree, TVI_ROOT, TVI_LAST, list);
     }
 
-    // The entry whose label is name.
-    HTREEITEM Find(const std::string& name) const {
-        for (CTreeWalk walk(m_tree, nullptr); !walk.Done(); walk.Step()) {
-            if (m_tree.GetItemText(walk.Current()) == name) {
-                return walk.Current();
-            }
-        }
-        return nullptr;
-    }
-
-    // Labels in walk order, children in brackets: "A(B C) D".
-    std::string Shape(HTREEITEM parent = TVI_ROOT) const {
-        std::string out;
-        for (HTREEITEM e = m_tree.GetChildItem(parent); e; e = m_tree.GetNextSiblingItem(e)) {
-            out += (out.empty() ? "" : " ") + m_tree.GetItemText(e);
-            if (m_tree.ItemHasChildren(e)) {
-                out += "(" + Shape(e) + ")";
-            }
-        }
-        return out;
-    }
+    HTREEITEM Find(const std::string& name) const { return FindLabel(m_tree, name); }
+    std::string Shape(HTREEITEM parent = TVI_ROOT) const { return ::Shape(m_tree, parent); }
 
     CGameDatabase m_db;
     COobDocument m_doc;

@@ -49,6 +49,20 @@ inline std::string Shape(const CTreeStore& tree, HTREEITEM parent = TVI_ROOT) {
     return out;
 }
 
+// The first entry labelled label, in pre-order; none when no entry has it.
+inline HTREEITEM FindLabel(const CTreeStore& tree, const std::string& label,
+                           HTREEITEM parent = TVI_ROOT) {
+    for (HTREEITEM e = tree.GetChildItem(parent); e; e = tree.GetNextSiblingItem(e)) {
+        if (tree.GetItemText(e) == label) {
+            return e;
+        }
+        if (HTREEITEM found = FindLabel(tree, label, e)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
 // A chain of depth entries, each the only child of the one before; returns its top.
 inline HTREEITEM BuildChain(CTreeStore& tree, int depth) {
     HTREEITEM top = nullptr;

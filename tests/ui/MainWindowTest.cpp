@@ -1,39 +1,20 @@
-// Start-up and the main window: START.INI, the fields' first values, Exit and Escape, the
-// commands before any workspace, the right-click menu, the About box, and the resources.
+// Start-up and the main window: START.INI, Exit and Escape, the commands before any workspace,
+// and the right-click menu.
 #include <gtest/gtest.h>
-#include <stdlib.h>
-#include <unistd.h>
-
-#include <filesystem>
-#include <fstream>
 
 #include "HeadlessTest.h"
+#include "UiFolder.h"
 #include "app/EditorApp.h"
 #include "app/MainDlg.h"
 #include "resources/ResourceIds.h"
-#include "resources/Resources.h"
 
 namespace {
-// Runs the test in a fresh current folder, as the program runs in its own.
 class MainWindowTest : public HeadlessTest {
 protected:
-    MainWindowTest() {
-        char pattern[] = "/tmp/harnwick-ui-XXXXXX";
-        folder = ::mkdtemp(pattern);
-        previous = std::filesystem::current_path();
-        std::filesystem::current_path(folder);
-    }
-    ~MainWindowTest() override {
-        std::filesystem::current_path(previous);
-        std::filesystem::remove_all(folder);
-    }
-
-    void WriteStartIni(const std::string& bytes) {
-        std::ofstream(folder / "START.INI", std::ios::binary) << bytes;
-    }
-
     // Runs the main window with script, and quits it afterwards.
-    int Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script) {
+    int Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script,
+            const std::string& startIni = ".\n") {
+        WriteBytes(folder / "START.INI", startIni);
         ui.OnDialog(IDD_HARNWICK_DIALOG, [&](CHeadlessUser& user) {
             script(user, static_cast<CMainDlg&>(user.Dialog()));
             if (user.Dialog().IsRunning()) {
@@ -44,8 +25,7 @@ protected:
         return dlg.DoModal();
     }
 
-    std::filesystem::path folder;
-    std::filesystem::path previous;
+    CUiFolder folder;
     CMainDlg dlg;
 };
 
@@ -55,55 +35,26 @@ TEST_F(MainWindowTest, WithoutStartIniTheProgramSaysSoAndEnds) {
     ASSERT_EQ(ui.Messages().size(), 1u);
     EXPECT_EQ(ui.Messages()[0].text, "Bad or missing START.INI file!");
     EXPECT_EQ(ui.Messages()[0].caption, "Error");
-    EXPECT_EQ(ui.Messages()[0].Icon(), MB_ICONEXCLAMATION);
-    EXPECT_EQ(ui.Messages()[0].Buttons(), MB_OK);
+    EXPECT_EQ(ui.Messages()[0].type, unsigned{MB_OK | MB_ICONEXCLAMATION});
 }
 
-struct StartIniCase {
-    std::string content;
-    std::string startDir;
-};
-
-class StartIniTest : public MainWindowTest, public ::testing::WithParamInterface<StartIniCase> {};
-
-TEST_P(StartIniTest, TheFirstLineIsTheStartFolder) {
-    WriteStartIni(GetParam().content);
-    Run([](CHeadlessUser&, CMainDlg& main) { EXPECT_EQ(main.m_strStartDir, GetParam().startDir); });
-    EXPECT_EQ(dlg.m_strStartDir, GetParam().startDir);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, StartIniTest,
-    ::testing::Values(StartIniCase{"", ""}, StartIniCase{"\n/second/line\n", ""},
-                      StartIniCase{"/home/designer/oob\r\nignored\r\n", "/home/designer/oob"},
-                      StartIniCase{"/no/line/feed", "/no/line/feed"},
-                      StartIniCase{std::string(300, 'd') + "\nx", std::string(249, 'd')},
-                      StartIniCase{std::string(249, 'e') + "\r\n", std::string(249, 'e')},
-                      StartIniCase{"C:\\Caf\xE9\\OOB\n", "C:\\Caf\xE9\\OOB"}));
-
-TEST_F(MainWindowTest, StartsWithNoWorkspaceAndTheFieldsFirstValues) {
-    WriteStartIni(".\n");
-    Run([](CHeadlessUser& user, CMainDlg& main) {
-        EXPECT_EQ(user.Text(IDC_OOB_STATUS), "-");
-        EXPECT_EQ(user.Text(IDC_BACKUP_STATUS), "-");
-        EXPECT_EQ(user.Text(IDC_MARKED_NAME), "empty");
-        EXPECT_EQ(user.Text(IDC_MARKED_CAPTION), "Marked item");
-        EXPECT_FALSE(user.IsVisible(IDC_CLIP_LIST));
-        EXPECT_FALSE(user.IsVisible(IDC_ENTER));
-        EXPECT_EQ(user.FocusId(), IDC_TREE);
-        EXPECT_EQ(main.m_nClipMode, 0);
-        EXPECT_EQ(main.m_hMarked, nullptr);
-        EXPECT_EQ(main.m_pDocument, nullptr);
-        EXPECT_EQ(main.m_pWorkspace, nullptr);
-        EXPECT_EQ(main.m_pDatabase, nullptr);
-        EXPECT_EQ(main.m_tree.GetCount(), 0u);
-        EXPECT_EQ(&user.Dialog().GetDlgItem(IDC_TREE)->Tree(), &main.m_tree);
-        EXPECT_EQ(&user.Dialog().GetDlgItem(IDC_CLIP_LIST)->Lines(), &main.m_clipList);
-    });
+// The first line is the start folder, cut at 249 characters.
+TEST_F(MainWindowTest, TheFirstLineOfStartIniIsTheStartFolder) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"", ""},
+        {"\n/second/line\n", ""},
+        {"/home/designer/oob\r\nignored\r\n", "/home/designer/oob"},
+        {"/no/line/feed", "/no/line/feed"},
+        {std::string(300, 'd') + "\nx", std::string(249, 'd')},
+        {"C:\\Caf\xE9\\OOB\n", "C:\\Caf\xE9\\OOB"},
+    };
+    for (const auto& [content, startDir] : cases) {
+        Run([](CHeadlessUser&, CMainDlg&) {}, content);
+        EXPECT_EQ(dlg.m_strStartDir, startDir) << content.substr(0, 20);
+    }
 }
 
 TEST_F(MainWindowTest, EscapeAsksBeforeQuittingAndNoKeepsTheWindowOpen) {
-    WriteStartIni(".\n");
     const int result = Run([this](CHeadlessUser& user, CMainDlg&) {
         ui.AnswerMessage("Do you want to quit?", IDNO);
         user.Escape();
@@ -121,10 +72,10 @@ TEST_F(MainWindowTest, EscapeAsksBeforeQuittingAndNoKeepsTheWindowOpen) {
 }
 
 // Everything but New, Load, Exit, About and Armies summary needs a workspace: before one is
-// open, each does nothing and shows nothing (an unscripted message or dialog fails the test).
+// open, each does nothing and shows nothing (an unscripted message or dialog fails the test),
+// and the right-click menu still opens at the tree's top-left corner.
 TEST_F(MainWindowTest, CommandsBeforeAnyWorkspaceDoNothingAndShowNothing) {
-    WriteStartIni(".\n");
-    const std::vector<int> commands = {
+    const int commands[] = {
         ID_FILE_SAVE,           ID_FILE_SAVE_AS,
         ID_FILE_PROPERTIES,     ID_EDIT_PROPERTIES,
         ID_EDIT_COPY,           ID_EDIT_CUT,
@@ -142,6 +93,7 @@ TEST_F(MainWindowTest, CommandsBeforeAnyWorkspaceDoNothingAndShowNothing) {
         ID_REPORT_LEADER,       ID_REPORT_COST,
         ID_REPORT_KEY,
     };
+    ui.AnswerPopupMenu(ID_DELETE_ITEM);
     Run([&](CHeadlessUser& user, CMainDlg& main) {
         for (int command : commands) {
             user.Command(command);
@@ -150,8 +102,8 @@ TEST_F(MainWindowTest, CommandsBeforeAnyWorkspaceDoNothingAndShowNothing) {
         user.Click(IDC_BACKUP_STATUS);
         user.Enter();
         user.Enter(true);
-        EXPECT_EQ(user.Text(IDC_OOB_STATUS), "-");
-        EXPECT_EQ(user.Text(IDC_BACKUP_STATUS), "-");
+        user.RightClick(IDC_TREE);
+        EXPECT_EQ(user.Text(IDC_OOB_STATUS) + user.Text(IDC_BACKUP_STATUS), "--");
         EXPECT_EQ(user.Text(IDC_MARKED_NAME), "empty");
         EXPECT_EQ(user.Text(IDC_MARKED_CAPTION), "Marked item");
         EXPECT_EQ(main.m_tree.GetCount(), 0u);
@@ -159,29 +111,13 @@ TEST_F(MainWindowTest, CommandsBeforeAnyWorkspaceDoNothingAndShowNothing) {
     });
     EXPECT_EQ(ui.Messages().size(), 1u);  // the quit question only
     EXPECT_EQ(ui.Dialogs().size(), 1u);
+    ASSERT_EQ(ui.Popups().size(), 1u);
+    EXPECT_EQ(ui.Popups()[0].menu.text, "&Edit");
+    EXPECT_EQ(ui.Popups()[0].point, (CPoint{11, 11}));  // 7, 7 dialog units
 }
 
-TEST_F(MainWindowTest, TheRightClickMenuStillOpensAndItsCommandsDoNothing) {
-    WriteStartIni(".\n");
-    ui.AnswerPopupMenu(ID_EDIT_COPY);
-    ui.AnswerPopupMenu(ID_DELETE_ITEM);
-    Run([](CHeadlessUser& user, CMainDlg&) {
-        user.RightClick(IDC_TREE);
-        user.RightClick(IDC_TREE);
-        EXPECT_EQ(user.Text(IDC_MARKED_CAPTION), "Marked item");
-    });
-    ASSERT_EQ(ui.Popups().size(), 2u);
-    const CMenuItem& shown = ui.Popups()[0].menu;
-    EXPECT_EQ(shown.text, "&Edit");
-    ASSERT_FALSE(shown.popup.empty());
-    EXPECT_EQ(shown.popup[0].text, "&Properties");
-    // No entry selected: at the tree's top-left corner (7, 7 dialog units).
-    EXPECT_EQ(ui.Popups()[0].point, (CPoint{11, 11}));
-    EXPECT_EQ(ui.Messages().size(), 1u);
-}
-
+// Beside the selected entry's label: 19..19+6*8+4 by 0..16 in the tree at 11, 11.
 TEST_F(MainWindowTest, TheRightClickMenuOpensBesideTheSelectedEntry) {
-    WriteStartIni(".\n");
     ui.AnswerPopupMenu(0);
     Run([](CHeadlessUser& user, CMainDlg& main) {
         const HTREEITEM army = main.m_tree.InsertItem("1st Army");
@@ -190,43 +126,12 @@ TEST_F(MainWindowTest, TheRightClickMenuOpensBesideTheSelectedEntry) {
         EXPECT_EQ(main.m_tree.GetSelectedItem(), army);
         main.m_tree.DeleteAllItems();
     });
-    // Label 19..19+6*8+4 by 0..16 in the tree, whose client area starts at 11, 11.
     ASSERT_EQ(ui.Popups().size(), 1u);
     EXPECT_EQ(ui.Popups()[0].point, (CPoint{11 + 19 + 52 + 20, 11 + 16}));
 }
 
-TEST_F(MainWindowTest, AboutShowsTheProgramsNameVersionAndIcon) {
-    WriteStartIni(".\n");
-    ui.OnDialog(IDD_ABOUTBOX, [](CHeadlessUser& user) {
-        EXPECT_EQ(user.Dialog().Resource().caption, "About Harnwick");
-        const auto& controls = user.Dialog().Resource().controls;
-        EXPECT_EQ(controls[0].image, &IconResource(IDR_MAINFRAME));
-        EXPECT_EQ(controls[1].text, "Harnwick Version 4.0");
-        user.Enter();
-    });
-    Run([](CHeadlessUser& user, CMainDlg&) { user.Command(ID_ABOUT); });
-    EXPECT_EQ(ui.Dialogs().size(), 2u);
-}
-
-TEST_F(MainWindowTest, AMinimisedWindowDrawsItsIconCentred) {
-    WriteStartIni(".\n");
-    Run([](CHeadlessUser& user, CMainDlg& main) {
-        EXPECT_TRUE(user.Paint().Ops().empty());
-        user.Minimise(true);
-        const auto& ops = user.Paint().Ops();
-        ASSERT_EQ(ops.size(), 2u);
-        EXPECT_EQ(ops[0].kind, CPaintOp::Kind::EraseIconBackground);
-        EXPECT_EQ(ops[1].kind, CPaintOp::Kind::DrawIcon);
-        EXPECT_EQ(ops[1].image, main.m_hIcon);
-        // A client area of 630 x 406 pixels: (630 - 32 + 1) / 2 and (406 - 32 + 1) / 2.
-        EXPECT_EQ(ops[1].x, 299);
-        EXPECT_EQ(ops[1].y, 187);
-        user.Minimise(false);
-    });
-}
-
 TEST_F(MainWindowTest, TheApplicationRunsTheMainWindowAndEnds) {
-    WriteStartIni(".\n");
+    WriteBytes(folder / "START.INI", ".\n");
     CEditorApp app;
     ui.AnswerMessage("Do you want to quit?", IDYES);
     ui.OnDialog(IDD_HARNWICK_DIALOG, [&app](CHeadlessUser& user) {

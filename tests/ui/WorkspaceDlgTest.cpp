@@ -9,6 +9,8 @@
 #include "resources/ResourceIds.h"
 
 namespace {
+using Script = std::function<void(CHeadlessUser&)>;
+
 class WorkspaceDlgTest : public HeadlessTest {
 protected:
     WorkspaceDlgTest() : dlg(workspace) {
@@ -24,7 +26,7 @@ protected:
     }
 
     // Runs the dialog with script; gives its result.
-    int Run(const std::function<void(CHeadlessUser&)>& script) {
+    int Run(const Script& script) {
         ui.OnDialog(IDD_WORKSPACE, script);
         return dlg.DoModal();
     }
@@ -41,7 +43,6 @@ TEST_F(WorkspaceDlgTest, ResetTakesEveryFieldBackFromTheWorkspace) {
         user.Type(IDC_WS_TITLE, "Changed");
         user.Click(IDC_WS_OOB_PICK);
         user.Click(IDC_WS_LEADER_FACES_ON);
-        EXPECT_EQ(user.Text(IDC_WS_LEADER_FACES), "/designs/other.bmp");
         user.Click(IDC_WS_RESET);
         EXPECT_EQ(user.Text(IDC_WS_TITLE), "Northern Marches");
         EXPECT_EQ(user.Text(IDC_WS_OOB_FILE), "marches.oob");
@@ -51,191 +52,130 @@ TEST_F(WorkspaceDlgTest, ResetTakesEveryFieldBackFromTheWorkspace) {
     });
 }
 
-struct PickerCase {
-    int button;
-    int field;
-    std::uint16_t openMode;
-    bool open;
-    const char* defExt;
-    const char* firstFilter;
-};
-
-class WorkspacePickerTest : public WorkspaceDlgTest,
-                            public ::testing::WithParamInterface<PickerCase> {};
-
-// Each picker opens in the opener's folder with its kind, extension and filters; OK writes the
-// chosen path, a cancel writes "empty".
-TEST_P(WorkspacePickerTest, WritesTheChosenPathOrEmpty) {
-    const PickerCase& c = GetParam();
-    dlg.m_nOpenMode = c.openMode;
-    ui.AnswerFileDialog("/designs/chosen");
-    ui.CancelFileDialog();
-    Run([&c](CHeadlessUser& user) {
-        user.Click(c.button);
-        EXPECT_EQ(user.Text(c.field), std::string("/designs/chosen.") + c.defExt);
-        user.Click(c.button);
-        EXPECT_EQ(user.Text(c.field), "empty");
-        user.Click(IDC_WS_CANCEL);
-    });
-    ASSERT_EQ(ui.FileDialogs().size(), 2u);
-    const CShownFileDialog& shown = ui.FileDialogs()[0];
-    EXPECT_EQ(shown.open, c.open);
-    EXPECT_EQ(shown.defaultExtension, c.defExt);
-    EXPECT_EQ(shown.fileName, "");
-    EXPECT_EQ(shown.initialDir, "/designs");
-    EXPECT_EQ(shown.flags, unsigned{OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT});
-    ASSERT_EQ(shown.filters.size(), 2u);
-    EXPECT_EQ(shown.filters[0].description, c.firstFilter);
-    EXPECT_EQ(shown.filters[1].description, "Text Files (*.txt)");
-    EXPECT_EQ(shown.filters[1].pattern, "*.txt");
-    EXPECT_EQ(workspace.m_strOobFile, "marches.oob");  // cancelled: the workspace is untouched
+// Each picker opens in the opener's folder with its kind and extension; OK writes the chosen
+// path, a cancel writes "empty", and the workspace is untouched until Accept.
+TEST_F(WorkspaceDlgTest, PickersWriteTheChosenPathOrEmpty) {
+    const struct {
+        int button, field, openMode;
+        bool open;
+        const char* defExt;
+    } cases[] = {
+        {IDC_WS_OOB_PICK, IDC_WS_OOB_FILE, 0, false, "oob"},
+        {IDC_WS_OOB_PICK, IDC_WS_OOB_FILE, 1, true, "oob"},
+        {IDC_WS_BACKUP_PICK, IDC_WS_BACKUP_FILE, 1, false, "oob"},
+        {IDC_WS_TARGET_PICK, IDC_WS_TARGET_FILE, 0, true, "inf"},
+    };
+    for (const auto& c : cases) {
+        dlg.m_nOpenMode = static_cast<std::uint16_t>(c.openMode);
+        ui.AnswerFileDialog("/designs/chosen");
+        ui.CancelFileDialog();
+        Run([&c](CHeadlessUser& user) {
+            user.Click(c.button);
+            EXPECT_EQ(user.Text(c.field), std::string("/designs/chosen.") + c.defExt);
+            user.Click(c.button);
+            EXPECT_EQ(user.Text(c.field), "empty");
+            user.Click(IDC_WS_CANCEL);
+        });
+        const CShownFileDialog& shown = ui.FileDialogs().back();
+        EXPECT_EQ(shown.open, c.open) << c.button;
+        EXPECT_EQ(shown.defaultExtension, c.defExt);
+        EXPECT_EQ(shown.initialDir, "/designs");
+    }
+    EXPECT_EQ(workspace.m_strOobFile, "marches.oob");
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Pickers, WorkspacePickerTest,
-    ::testing::Values(PickerCase{IDC_WS_OOB_PICK, IDC_WS_OOB_FILE, 0, false, "oob",
-                                 "Order Of Battle Files (*.oob)"},
-                      PickerCase{IDC_WS_OOB_PICK, IDC_WS_OOB_FILE, 1, true, "oob",
-                                 "Order Of Battle Files (*.oob)"},
-                      PickerCase{IDC_WS_BACKUP_PICK, IDC_WS_BACKUP_FILE, 1, false, "oob",
-                                 "Order Of Battle Files (*.oob)"},
-                      PickerCase{IDC_WS_TARGET_PICK, IDC_WS_TARGET_FILE, 0, true, "inf",
-                                 "Target Platform Files (*.inf)"}));
-
-struct SwitchCase {
-    int checkBox;
-    int field;
-    const char* file;
-    const char* firstFilter;
-};
-
-class PictureSwitchTest : public WorkspaceDlgTest,
-                          public ::testing::WithParamInterface<SwitchCase> {};
 
 // On: an open picker for the picture file, starting at the path field's text; a cancel turns
 // the switch off again and writes "empty". Off: the path becomes "empty".
-TEST_P(PictureSwitchTest, OnAsksForTheFileAndOffForgetsIt) {
-    const SwitchCase& c = GetParam();
+TEST_F(WorkspaceDlgTest, PictureSwitchesAskForTheFileAndForgetIt) {
+    const struct {
+        int checkBox, field;
+        const char* file;
+    } cases[] = {
+        {IDC_WS_UNIT_PICTURES_ON, IDC_WS_UNIT_PICTURES, "units.bmp"},
+        {IDC_WS_LEADER_FACES_ON, IDC_WS_LEADER_FACES, "leaders.bmp"},
+        {IDC_WS_INFANTRY_ICONS_ON, IDC_WS_INFANTRY_ICONS, "icons3d2.bmp"},
+        {IDC_WS_CAVALRY_ICONS_ON, IDC_WS_CAVALRY_ICONS, "icons3d1.bmp"},
+        {IDC_WS_ARTILLERY_ICONS_ON, IDC_WS_ARTILLERY_ICONS, "icons3d0.bmp"},
+    };
     workspace.m_nPictureFlags.fill(0);
     workspace.m_strPicturePaths.fill("art/old.bmp");
-    const std::string chosen = std::string("/designs/art/") + c.file;
-    ui.AnswerFileDialog(chosen);
-    ui.CancelFileDialog();
-    Run([&](CHeadlessUser& user) {
-        user.Click(c.checkBox);
-        EXPECT_EQ(user.Check(c.checkBox), 1);
-        EXPECT_EQ(user.Text(c.field), chosen);
-        user.Click(c.checkBox);
-        EXPECT_EQ(user.Check(c.checkBox), 0);
-        EXPECT_EQ(user.Text(c.field), "empty");
-        user.Click(c.checkBox);
-        EXPECT_EQ(user.Check(c.checkBox), 0);
-        EXPECT_EQ(user.Text(c.field), "empty");
-        user.Click(IDC_WS_CANCEL);
-    });
-    ASSERT_EQ(ui.FileDialogs().size(), 2u);
-    const CShownFileDialog& shown = ui.FileDialogs()[0];
-    EXPECT_TRUE(shown.open);
-    EXPECT_EQ(shown.defaultExtension, "bmp");
-    EXPECT_EQ(shown.initialDir, "art/old.bmp");
-    EXPECT_EQ(ui.FileDialogs()[1].initialDir, "empty");
-    ASSERT_EQ(shown.filters.size(), 2u);
-    EXPECT_EQ(shown.filters[0].description, c.firstFilter);
-    EXPECT_EQ(shown.filters[0].pattern, c.file);
-    EXPECT_EQ(shown.filters[1].description, "Bitmap Files (*.bmp)");
+    for (const auto& c : cases) {
+        const std::string chosen = std::string("/designs/art/") + c.file;
+        ui.AnswerFileDialog(chosen);
+        ui.CancelFileDialog();
+        Run([&](CHeadlessUser& user) {
+            user.Click(c.checkBox);
+            EXPECT_EQ(user.Text(c.field), chosen);
+            user.Click(c.checkBox);
+            EXPECT_EQ(user.Text(c.field), "empty");
+            user.Click(c.checkBox);
+            EXPECT_EQ(user.Check(c.checkBox), 0);
+            EXPECT_EQ(user.Text(c.field), "empty");
+            user.Click(IDC_WS_CANCEL);
+        });
+        const auto& shown = ui.FileDialogs();
+        EXPECT_EQ(shown[shown.size() - 2].initialDir, "art/old.bmp");
+        EXPECT_EQ(shown[shown.size() - 2].filters.at(0).pattern, c.file);
+        EXPECT_EQ(shown.back().initialDir, "empty");
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Switches, PictureSwitchTest,
-    ::testing::Values(SwitchCase{IDC_WS_UNIT_PICTURES_ON, IDC_WS_UNIT_PICTURES, "units.bmp",
-                                 "Unit Picture Files (units.bmp)"},
-                      SwitchCase{IDC_WS_LEADER_FACES_ON, IDC_WS_LEADER_FACES, "leaders.bmp",
-                                 "Leader Face Files (leaders.bmp)"},
-                      SwitchCase{IDC_WS_INFANTRY_ICONS_ON, IDC_WS_INFANTRY_ICONS, "icons3d2.bmp",
-                                 "Infantry Icon Files (icons3d2.bmp)"},
-                      SwitchCase{IDC_WS_CAVALRY_ICONS_ON, IDC_WS_CAVALRY_ICONS, "icons3d1.bmp",
-                                 "Cavalry Icon Files (icons3d1.bmp)"},
-                      SwitchCase{IDC_WS_ARTILLERY_ICONS_ON, IDC_WS_ARTILLERY_ICONS, "icons3d0.bmp",
-                                 "Artillery Icon Files (icons3d0.bmp)"}));
-
+// A title typed before a picker is kept through it.
 TEST_F(WorkspaceDlgTest, AcceptSavesEveryFieldToTheWorkspaceFile) {
     ui.AnswerFileDialog("/designs/art/leaders.bmp");
+    ui.AnswerFileDialog("/designs/army.oob");
     const int result = Run([](CHeadlessUser& user) {
         user.Type(IDC_WS_TITLE, "Southern Marches");
         user.Click(IDC_WS_LEADER_FACES_ON);
         user.Click(IDC_WS_INFANTRY_ICONS_ON);
+        user.Click(IDC_WS_OOB_PICK);
+        EXPECT_EQ(user.Text(IDC_WS_TITLE), "Southern Marches");
         user.Click(IDC_WS_ACCEPT);
     });
     EXPECT_EQ(result, 1);
     EXPECT_EQ(workspace.m_strTitle, "Southern Marches");
-    EXPECT_EQ(ReadFileBytes(folder / "campaign.txt"),
-              "Southern Marches|\r\nmarches.oob|\r\nmarches.bak|\r\nmarches.inf|\r\n"
+    EXPECT_EQ(ReadBytes(folder / "campaign.txt"),
+              "Southern Marches|\r\n/designs/army.oob|\r\nmarches.bak|\r\nmarches.inf|\r\n"
               "1|art/units.bmp|\r\n1|/designs/art/leaders.bmp|\r\n0|empty|\r\n0|empty|\r\n"
               "0|empty|\r\n");
 }
 
-// A title typed before a picker is kept through it.
-TEST_F(WorkspaceDlgTest, APickerKeepsTheTitleBeingTyped) {
-    ui.AnswerFileDialog("/designs/army.oob");
-    Run([](CHeadlessUser& user) {
-        user.Type(IDC_WS_TITLE, "Typed first");
-        user.Click(IDC_WS_OOB_PICK);
-        EXPECT_EQ(user.Text(IDC_WS_TITLE), "Typed first");
-        user.Click(IDC_WS_ACCEPT);
-    });
-    EXPECT_EQ(workspace.m_strTitle, "Typed first");
-    EXPECT_EQ(workspace.m_strOobFile, "/designs/army.oob");
-}
-
-struct RequiredCase {
-    const char* oobFile;
-    const char* targetFile;
-    const char* message;  // none: accepted
-};
-
-class RequiredPathTest : public WorkspaceDlgTest,
-                         public ::testing::WithParamInterface<RequiredCase> {};
-
 // Only the empty text is refused, and the OOB file first; "empty" passes. Refused, the dialog
 // stays open with its fields, even with the pickers disabled.
-TEST_P(RequiredPathTest, OnlyAnEmptyOobOrTargetPathIsRefused) {
-    const RequiredCase& c = GetParam();
-    workspace.m_strOobFile = c.oobFile;
-    workspace.m_strTargetFile = c.targetFile;
+TEST_F(WorkspaceDlgTest, OnlyAnEmptyOobOrTargetPathIsRefused) {
+    const struct {
+        const char *oobFile, *targetFile, *message;  // no message: accepted
+    } cases[] = {
+        {"", "", "You must select OOB file!"},
+        {"marches.oob", "", "You must select target file!"},
+        {"empty", "empty", nullptr},
+    };
     dlg.m_nMode = 1;
-    if (c.message) {
-        ui.AnswerMessage(c.message, IDOK);
-    }
-    const int result = Run([&c](CHeadlessUser& user) {
-        user.Type(IDC_WS_TITLE, "Typed");
-        user.Click(IDC_WS_ACCEPT);
-        EXPECT_EQ(user.Dialog().IsRunning(), c.message != nullptr);
-        if (user.Dialog().IsRunning()) {
-            EXPECT_EQ(user.Text(IDC_WS_TITLE), "Typed");
-            user.Click(IDC_WS_CANCEL);
+    for (const auto& c : cases) {
+        workspace.m_strOobFile = c.oobFile;
+        workspace.m_strTargetFile = c.targetFile;
+        if (c.message) {
+            ui.AnswerMessage(c.message, IDOK);
         }
-    });
-    EXPECT_EQ(result, c.message ? 0 : 1);
-    if (c.message) {
-        ASSERT_EQ(ui.Messages().size(), 1u);
-        EXPECT_EQ(ui.Messages()[0].caption, "Error");
-        EXPECT_EQ(ui.Messages()[0].type, unsigned{MB_OK | MB_ICONEXCLAMATION});
-        EXPECT_EQ(workspace.m_strTitle, "Northern Marches");
-        EXPECT_FALSE(std::filesystem::exists(folder / "campaign.txt"));
+        const int result = Run([&c](CHeadlessUser& user) {
+            user.Type(IDC_WS_TITLE, "Typed");
+            user.Click(IDC_WS_ACCEPT);
+            EXPECT_EQ(user.Dialog().IsRunning(), c.message != nullptr);
+            if (user.Dialog().IsRunning()) {
+                EXPECT_EQ(user.Text(IDC_WS_TITLE), "Typed");
+                user.Click(IDC_WS_CANCEL);
+            }
+        });
+        EXPECT_EQ(result, c.message ? 0 : 1);
+        EXPECT_EQ(std::filesystem::exists(folder / "campaign.txt"), !c.message);
     }
+    EXPECT_EQ(ui.Messages().size(), 2u);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Paths, RequiredPathTest,
-    ::testing::Values(RequiredCase{"", "marches.inf", "You must select OOB file!"},
-                      RequiredCase{"", "", "You must select OOB file!"},
-                      RequiredCase{"marches.oob", "", "You must select target file!"},
-                      RequiredCase{"empty", "empty", nullptr}));
-
 TEST_F(WorkspaceDlgTest, CancelEscapeAndTheCloseBoxGiveZeroAndLeaveTheWorkspace) {
-    for (auto leave :
-         {+[](CHeadlessUser& u) { u.Click(IDC_WS_CANCEL); }, +[](CHeadlessUser& u) { u.Escape(); },
-          +[](CHeadlessUser& u) { u.CloseBox(); }}) {
+    for (Script leave : {Script([](CHeadlessUser& u) { u.Click(IDC_WS_CANCEL); }),
+                         Script([](CHeadlessUser& u) { u.Escape(); }),
+                         Script([](CHeadlessUser& u) { u.CloseBox(); })}) {
         EXPECT_EQ(Run([leave](CHeadlessUser& user) {
                       user.Type(IDC_WS_TITLE, "Not kept");
                       leave(user);
@@ -254,18 +194,13 @@ TEST_F(WorkspaceDlgTest, AFailedSaveNamesTheFileAndStaysOpen) {
     const int result = Run([](CHeadlessUser& user) {
         user.Type(IDC_WS_TITLE, "Unsaved");
         user.Click(IDC_WS_ACCEPT);
-        EXPECT_TRUE(user.Dialog().IsRunning());
         EXPECT_EQ(user.Text(IDC_WS_TITLE), "Unsaved");
         user.Click(IDC_WS_CANCEL);
     });
     EXPECT_EQ(result, 0);
     ASSERT_EQ(ui.Messages().size(), 1u);
-    EXPECT_EQ(
-        ui.Messages()[0].text.rfind("Cannot write " + folder / "no-such-folder/campaign.txt", 0),
-        0u);
-    EXPECT_EQ(ui.Messages()[0].caption, "Error");
-    EXPECT_EQ(ui.Messages()[0].Icon(), MB_ICONEXCLAMATION);
+    EXPECT_EQ(ui.Messages()[0].text.rfind("Cannot write " + workspace.m_strPath, 0), 0u);
+    EXPECT_EQ(ui.Messages()[0].type, unsigned{MB_OK | MB_ICONEXCLAMATION});
     EXPECT_EQ(workspace.m_strTitle, "Northern Marches");
-    EXPECT_EQ(workspace.m_strPath, folder / "no-such-folder/campaign.txt");
 }
 }  // namespace
