@@ -203,8 +203,8 @@ void CMainDlg::OnSave() {
     SaveFilesPrompt();
 }
 
-// A workspace file that cannot be written keeps the workspace's old path, so that Properties
-// goes on saving where the workspace file is.
+// A workspace file that cannot be written keeps the workspace's old path (Save changes it only
+// when it succeeds), so that Properties goes on saving where the workspace file is.
 void CMainDlg::OnSaveAs() {
     if (!m_pWorkspace || !Ask("Do you want to save your workspace under a new name?", "Save As")) {
         return;
@@ -213,9 +213,7 @@ void CMainDlg::OnSaveAs() {
     if (!path) {
         return;
     }
-    const std::string oldPath = m_pWorkspace->m_strPath;
     if (m_pWorkspace->Save(*path) != RESULT_DONE) {
-        m_pWorkspace->m_strPath = oldPath;
         ShowWriteError();
     }
 }

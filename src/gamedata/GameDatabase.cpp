@@ -155,8 +155,11 @@ std::string CGameDatabase::ToText() {
 }
 
 int CGameDatabase::Save(const std::string& path) {
-    m_strFilePath = path;
-    return ReplaceFile(path, ToText());
+    const int result = ReplaceFile(path, ToText());
+    if (result == RESULT_DONE) {
+        m_strFilePath = path;
+    }
+    return result;
 }
 
 int CGameDatabase::Load(const std::string& path) {
