@@ -155,11 +155,8 @@ std::string CGameDatabase::ToText() {
 }
 
 int CGameDatabase::Save(const std::string& path) {
-    const int result = ReplaceFile(path, ToText());
-    if (result == RESULT_DONE) {
-        m_strFilePath = path;
-    }
-    return result;
+    m_strFilePath = path;
+    return ReplaceFile(path, ToText());
 }
 
 int CGameDatabase::Load(const std::string& path) {
