@@ -83,7 +83,8 @@ protected:
     // Helpers of the File commands. SaveFilesPrompt gives false when the user wanted the files
     // saved and a write failed, so that the command that asked goes no further.
     bool SaveFilesPrompt();
-    void OpenWorkspace(std::unique_ptr<CWorkspace> workspace, bool createDefault);
+    void OpenWorkspace(std::unique_ptr<CWorkspace> workspace,
+                       std::unique_ptr<CGameDatabase> database);
     // Copies the file source into destination; RESULT_DONE, RESULT_CANNOT_OPEN (source) or
     // RESULT_CANNOT_WRITE (destination, left as it was).
     static int CopyFileText(const std::string& source, const std::string& destination);

@@ -90,18 +90,13 @@ bool CMainDlg::SaveFilesPrompt() {
     return true;
 }
 
-// A skeleton that cannot be written is reported; the tree then shows what the file holds
-// (nothing, or the old file left in place), so the status fields stay true.
-void CMainDlg::OpenWorkspace(std::unique_ptr<CWorkspace> workspace, bool createDefault) {
-    std::unique_ptr<CGameDatabase> database = LoadDatabase(workspace->m_strTargetFile);
+// The workspace replaces the open one, with the tree its order-of-battle file holds.
+void CMainDlg::OpenWorkspace(std::unique_ptr<CWorkspace> workspace,
+                             std::unique_ptr<CGameDatabase> database) {
     Install(std::move(workspace), std::move(database));
     m_strOobStatus = " ";
     m_strBackupStatus = "*";
-    const std::string& oobFile = m_pWorkspace->m_strOobFile;
-    if (createDefault && m_pDocument->CreateDefault(oobFile) != RESULT_DONE) {
-        ShowWriteError();
-    }
-    m_pDocument->LoadTree(oobFile, m_tree);
+    m_pDocument->LoadTree(m_pWorkspace->m_strOobFile, m_tree);
     UpdateData(false);
 }
 
@@ -122,9 +117,21 @@ void CMainDlg::NewWorkspace(const char* question, std::uint16_t oobOpenMode, boo
         return;
     }
     std::unique_ptr<CWorkspace> workspace = EditNewWorkspace(*path, false, 0, oobOpenMode);
-    if (workspace) {
-        OpenWorkspace(std::move(workspace), createDefault);
+    if (!workspace) {
+        return;
     }
+    std::unique_ptr<CGameDatabase> database = LoadDatabase(workspace->m_strTargetFile);
+    // The skeleton is written before anything is replaced, so that a write that fails leaves
+    // the open workspace, its tree and the status fields as they were.
+    if (createDefault) {
+        COobDocument skeleton;
+        skeleton.m_pDatabase = database.get();
+        if (skeleton.CreateDefault(workspace->m_strOobFile) != RESULT_DONE) {
+            ShowWriteError();
+            return;
+        }
+    }
+    OpenWorkspace(std::move(workspace), std::move(database));
 }
 
 void CMainDlg::OnNewEmptyOob() {
@@ -138,7 +145,8 @@ void CMainDlg::OnNewExistingOob() {
 // The attached list is shown before the current workspace is replaced. When it ends with no
 // line chosen (the game data lists no attached order of battle) there is nothing to base the
 // new one on: the command ends as a cancelled one does and the current workspace stays open.
-// A chosen file that does not open leaves no workspace at all.
+// A chosen file that does not open leaves no workspace at all; one that cannot be written
+// leaves the open workspace as it was.
 void CMainDlg::OnNewAttachedOob() {
     if (!Ask("Do you want to make a new Order of Battle basing on an attached one?", "New") ||
         !SaveFilesPrompt()) {
@@ -162,15 +170,12 @@ void CMainDlg::OnNewAttachedOob() {
     const std::string source =
         static_cast<CAttachedOobRecord&>(*database->m_AttachedOobs.SeekIndex(index)->m_pPayload)
             .m_strFile;
-    const std::string oobFile = workspace->m_strOobFile;
-    Install(std::move(workspace), std::move(database));
-
-    const int copied = CopyFileText(source, oobFile);
+    // The copy is made before anything is replaced, as for New, Empty.
+    const int copied = CopyFileText(source, workspace->m_strOobFile);
     if (copied == RESULT_CANNOT_OPEN) {
         MessageBox("Bad or missing " + source + " file!", "Error", MB_ICONEXCLAMATION);
+        Install(nullptr, nullptr);
         m_pDocument.reset();
-        m_pDatabase.reset();
-        m_pWorkspace.reset();
         m_strOobStatus = "-";
         m_strBackupStatus = "-";
         UpdateData(false);
@@ -178,11 +183,9 @@ void CMainDlg::OnNewAttachedOob() {
     }
     if (copied != RESULT_DONE) {
         ShowWriteError();
+        return;
     }
-    m_pDocument->LoadTree(oobFile, m_tree);
-    m_strOobStatus = " ";
-    m_strBackupStatus = "*";
-    UpdateData(false);
+    OpenWorkspace(std::move(workspace), std::move(database));
 }
 
 void CMainDlg::OnLoad() {
@@ -195,7 +198,8 @@ void CMainDlg::OnLoad() {
     }
     std::unique_ptr<CWorkspace> workspace = EditNewWorkspace(*path, true, 1, 0);
     if (workspace) {
-        OpenWorkspace(std::move(workspace), false);
+        std::unique_ptr<CGameDatabase> database = LoadDatabase(workspace->m_strTargetFile);
+        OpenWorkspace(std::move(workspace), std::move(database));
     }
 }
 
@@ -203,8 +207,8 @@ void CMainDlg::OnSave() {
     SaveFilesPrompt();
 }
 
-// A workspace file that cannot be written keeps the workspace's old path, so that Properties
-// goes on saving where the workspace file is.
+// A workspace file that cannot be written keeps the workspace's old path (Save changes it only
+// when it succeeds), so that Properties goes on saving where the workspace file is.
 void CMainDlg::OnSaveAs() {
     if (!m_pWorkspace || !Ask("Do you want to save your workspace under a new name?", "Save As")) {
         return;
@@ -213,9 +217,7 @@ void CMainDlg::OnSaveAs() {
     if (!path) {
         return;
     }
-    const std::string oldPath = m_pWorkspace->m_strPath;
     if (m_pWorkspace->Save(*path) != RESULT_DONE) {
-        m_pWorkspace->m_strPath = oldPath;
         ShowWriteError();
     }
 }

@@ -56,8 +56,11 @@ std::string CWorkspace::ToText() {
 }
 
 int CWorkspace::Save(const std::string& path) {
-    m_strPath = path;
-    return ReplaceFile(path, ToText());
+    const int result = ReplaceFile(path, ToText());
+    if (result == RESULT_DONE) {
+        m_strPath = path;
+    }
+    return result;
 }
 
 int CWorkspace::Load(const std::string& path) {

@@ -1,10 +1,9 @@
 #include "model/FileOps.h"
 
 #include <fcntl.h>
+#include <stdio.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <cstdio>
 
 namespace {
 
@@ -19,10 +18,13 @@ public:
     int Fchmod(int fd, mode_t mode) override { return ::fchmod(fd, mode); }
     int Fsync(int fd) override { return ::fsync(fd); }
     int Close(int fd) override { return ::close(fd); }
-    int Rename(const std::string& from, const std::string& to) override {
-        return std::rename(from.c_str(), to.c_str());
+    int Rename(const std::string& from, const std::string& to, unsigned flags) override {
+        return ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), flags);
     }
-    int Unlink(const std::string& path) override { return ::unlink(path.c_str()); }
+    int OpenFolder(const std::string& path) override {
+        return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    }
+    int SyncFolder(int fd) override { return ::fsync(fd); }
 };
 
 CPosixFileOps g_posix;

@@ -1,6 +1,7 @@
 #include "model/FileWriter.h"
 
 #include <fcntl.h>
+#include <stdio.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -62,12 +63,65 @@ bool WriteAll(CFileOps& ops, int fd, std::string_view bytes, int& error) {
     return true;
 }
 
+// How the new file took the old one's place, which decides how that is taken back.
+enum class Swap { kExchanged, kCreated, kRenamedOver };
+
+void TakeBack(Swap swap, const std::string& temporary, const std::string& target) {
+    if (swap == Swap::kExchanged) {
+        // Should the names not go back, the old bytes stay under the temporary name rather
+        // than being removed.
+        if (::renameat2(AT_FDCWD, temporary.c_str(), AT_FDCWD, target.c_str(), RENAME_EXCHANGE) ==
+            0) {
+            ::unlink(temporary.c_str());
+        }
+    } else if (swap == Swap::kCreated) {
+        ::unlink(target.c_str());
+    }
+}
+
 std::string TemporaryNameFor(const std::string& target) {
     static unsigned counter = 0;
     const std::size_t slash = target.rfind('/');
     const std::string base = slash == std::string::npos ? target : target.substr(slash + 1);
     return FolderOf(target) + "/." + base + "." + std::to_string(::getpid()) + "." +
            std::to_string(++counter) + ".tmp";
+}
+
+// The new file has taken the old one's place: syncs the folder, so that the new name survives
+// a crash, and takes the new file back out when that fails. With the names exchanged the old
+// file is still there under the temporary name until then.
+int Commit(CFileOps& ops, const std::string& path, const std::string& temporary,
+           const std::string& target, bool replacing, int folder) {
+    Swap swap = replacing ? Swap::kExchanged : Swap::kCreated;
+    int renamed = ops.Rename(temporary, target, replacing ? RENAME_EXCHANGE : 0);
+    if (renamed != 0 && replacing && (errno == EINVAL || errno == ENOSYS)) {
+        // A file system that cannot exchange two names (FAT, network file systems): the old
+        // file is gone with the rename, so a failed folder sync after it cannot be taken back.
+        swap = Swap::kRenamedOver;
+        renamed = ops.Rename(temporary, target, 0);
+    }
+    if (renamed != 0) {
+        const int error = errno;
+        ::close(folder);
+        ::unlink(temporary.c_str());
+        return Fail(path, error);
+    }
+    int error = 0;
+    if (ops.SyncFolder(folder) != 0) {
+        error = errno;
+    }
+    if (ops.Close(folder) != 0 && error == 0) {
+        error = errno;
+    }
+    if (error != 0) {
+        TakeBack(swap, temporary, target);
+        return Fail(path, error);
+    }
+    if (swap == Swap::kExchanged) {
+        // The old bytes. Left behind only if the folder refuses the removal it just allowed.
+        ::unlink(temporary.c_str());
+    }
+    return RESULT_DONE;
 }
 
 }  // namespace
@@ -79,6 +133,11 @@ const std::string& LastWriteError() {
 int ReplaceFile(const std::string& path, std::string_view bytes) {
     CFileOps& ops = FileOps();
     const std::string target = FollowLinks(path);
+    struct stat old;
+    const bool replacing = ::stat(target.c_str(), &old) == 0;
+    if (replacing && S_ISDIR(old.st_mode)) {
+        return Fail(path, EISDIR);
+    }
     const std::string temporary = TemporaryNameFor(target);
     const int fd = ops.Open(temporary, O_WRONLY | O_CREAT | O_EXCL, 0666);
     if (fd < 0) {
@@ -86,8 +145,7 @@ int ReplaceFile(const std::string& path, std::string_view bytes) {
     }
     int error = 0;
     bool ok = WriteAll(ops, fd, bytes, error);
-    struct stat old;
-    if (ok && ::stat(target.c_str(), &old) == 0 && ops.Fchmod(fd, old.st_mode & 07777) != 0) {
+    if (ok && replacing && ops.Fchmod(fd, old.st_mode & 07777) != 0) {
         error = errno;
         ok = false;
     }
@@ -100,22 +158,17 @@ int ReplaceFile(const std::string& path, std::string_view bytes) {
         error = errno;
         ok = false;
     }
-    if (ok && ops.Rename(temporary, target) != 0) {
+    // The folder is opened before the rename, so that its failure still finds the old file.
+    const int folder = ok ? ops.OpenFolder(FolderOf(target)) : -1;
+    if (ok && folder < 0) {
         error = errno;
         ok = false;
     }
     if (!ok) {
-        ops.Unlink(temporary);
+        ::unlink(temporary.c_str());
         return Fail(path, error);
     }
-    // Syncing the folder makes the new name durable. Its failure is not reported: the file is
-    // already whole under its name, and some file systems do not sync folders at all.
-    const int folder = ops.Open(FolderOf(target), O_RDONLY | O_DIRECTORY, 0);
-    if (folder >= 0) {
-        ops.Fsync(folder);
-        ops.Close(folder);
-    }
-    return RESULT_DONE;
+    return Commit(ops, path, temporary, target, replacing, folder);
 }
 
 int AppendToFile(const std::string& path, std::string_view bytes) {
@@ -145,7 +198,7 @@ int AppendToFile(const std::string& path, std::string_view bytes) {
         // end, or no file when the append made it. A failed close is taken back too, since the
         // caller is told that nothing was appended.
         if (!existed) {
-            ops.Unlink(target);
+            ::unlink(target.c_str());
         } else if (before >= 0 && ::truncate(target.c_str(), before) != 0) {
             error = errno;
         }

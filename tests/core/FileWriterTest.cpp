@@ -5,67 +5,15 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "FailingFileOps.h"
 #include "TempFolder.h"
-#include "model/FileOps.h"
 #include "model/Result.h"
 
 namespace {
-
-// The real operations, except that operation number m_nFailAt (from 0) fails with a plausible
-// error; writes take at most chunk bytes at a time, so that one file takes several writes.
-class CFailingOps : public CFileOps {
-public:
-    CFailingOps(int failAt, std::size_t chunk)
-        : m_real(FileOps()), m_nFailAt(failAt), m_nChunk(chunk) {}
-
-    int Open(const std::string& path, int flags, mode_t mode) override {
-        return Fails("open", EACCES) ? -1 : m_real.Open(path, flags, mode);
-    }
-    ssize_t Write(int fd, const char* data, std::size_t size) override {
-        return Fails("write", ENOSPC) ? -1 : m_real.Write(fd, data, std::min(size, m_nChunk));
-    }
-    int Fchmod(int fd, mode_t mode) override {
-        return Fails("fchmod", EPERM) ? -1 : m_real.Fchmod(fd, mode);
-    }
-    int Fsync(int fd) override { return Fails("fsync", EIO) ? -1 : m_real.Fsync(fd); }
-    // A close that reports an error has still closed the descriptor.
-    int Close(int fd) override {
-        const int result = m_real.Close(fd);
-        return Fails("close", EIO) ? -1 : result;
-    }
-    int Rename(const std::string& from, const std::string& to) override {
-        return Fails("rename", EXDEV) ? -1 : m_real.Rename(from, to);
-    }
-    int Unlink(const std::string& path) override {
-        return Fails("unlink", EBUSY) ? -1 : m_real.Unlink(path);
-    }
-
-    std::vector<std::string> m_ops;  // the operations asked for, in order
-
-private:
-    bool Fails(const char* op, int error) {
-        const bool fail = static_cast<int>(m_ops.size()) == m_nFailAt;
-        m_ops.push_back(op);
-        errno = fail ? error : errno;
-        return fail;
-    }
-
-    CFileOps& m_real;
-    int m_nFailAt;
-    std::size_t m_nChunk;
-};
-
-// Puts a double in force for a scope.
-class CUseOps {
-public:
-    explicit CUseOps(CFileOps& ops) { SetFileOps(&ops); }
-    ~CUseOps() { SetFileOps(nullptr); }
-};
 
 mode_t ModeOf(const std::string& path) {
     struct stat st {};
@@ -86,37 +34,6 @@ std::size_t OpenDescriptors() {
 
 using Names = std::vector<std::string>;
 
-// Runs write with operation k failing, for every operation of a dry run, with whole and with
-// piecemeal writes. reset puts the file back as it was before each run; check looks at the
-// outcome, told whether the failing operation came after the one that made the change final.
-template <typename Write, typename Reset, typename Check>
-void FailEachOperation(const char* lastOp, Write write, Reset reset, Check check) {
-    const std::size_t descriptors = OpenDescriptors();
-    for (std::size_t chunk : {SIZE_MAX, std::size_t{3}}) {
-        reset();
-        CFailingOps dry(-1, chunk);
-        {
-            CUseOps use(dry);
-            ASSERT_EQ(write(), RESULT_DONE);
-        }
-        const auto last = std::find(dry.m_ops.begin(), dry.m_ops.end(), lastOp);
-        ASSERT_NE(last, dry.m_ops.end());
-        for (std::size_t k = 0; k < dry.m_ops.size(); ++k) {
-            SCOPED_TRACE("failing " + dry.m_ops[k] + " #" + std::to_string(k) + ", chunk " +
-                         std::to_string(chunk));
-            reset();
-            CFailingOps ops(static_cast<int>(k), chunk);
-            int result;
-            {
-                CUseOps use(ops);
-                result = write();
-            }
-            check(result, k > static_cast<std::size_t>(last - dry.m_ops.begin()));
-        }
-    }
-    EXPECT_EQ(OpenDescriptors(), descriptors);
-}
-
 TEST(FileWriter, ReplaceFileWritesAndKeepsThePermissionBits) {
     CTempFolder folder;
     const std::string path = folder / "target.inf";
@@ -131,11 +48,15 @@ TEST(FileWriter, ReplaceFileWritesAndKeepsThePermissionBits) {
     EXPECT_EQ(ReadBytes(path), "");
     EXPECT_EQ(ReplaceFile(folder / "fresh.inf", "x"), RESULT_DONE);
     EXPECT_EQ(ReadBytes(folder / "fresh.inf"), "x");
-    EXPECT_EQ(folder.Names(), (Names{"fresh.inf", "target.inf"}));
+    std::filesystem::create_directory(folder / "sub");
+    EXPECT_EQ(folder.Names(), (Names{"fresh.inf", "sub", "target.inf"}));
 
-    const std::string nowhere = folder / "missing/target.inf";
-    EXPECT_EQ(ReplaceFile(nowhere, "x"), RESULT_CANNOT_WRITE);
-    EXPECT_EQ(LastWriteError().rfind(nowhere + ": ", 0), 0u) << LastWriteError();
+    // Neither a missing folder nor a folder standing where the file should be is written.
+    for (const std::string& bad : {folder / "missing/target.inf", folder / "sub"}) {
+        EXPECT_EQ(ReplaceFile(bad, "x"), RESULT_CANNOT_WRITE);
+        EXPECT_EQ(LastWriteError().rfind(bad + ": ", 0), 0u) << LastWriteError();
+    }
+    EXPECT_EQ(folder.Names("sub"), Names{});
 }
 
 TEST(FileWriter, ReplaceFileWritesThroughSymbolicLinks) {
@@ -163,28 +84,77 @@ TEST(FileWriter, ReplaceFileWritesThroughSymbolicLinks) {
     EXPECT_EQ(folder.Names("sub"), Names{"link.inf"});
 }
 
-// A failure up to the rename leaves the old file byte for byte and no temporary file; the
-// folder sync after the rename is not reported, since the new file is already whole.
-TEST(FileWriter, ReplaceFileFailingAnyStepLeavesTheOldFile) {
-    CTempFolder folder;
-    const std::string path = folder / "game.inf";
+enum Start { kExisting, kMissing, kDanglingLink };
+
+// Puts the folder back to start: templates.tpl with old bytes, no such file, or a link to a
+// missing behind.tpl.
+void Reset(const CTempFolder& folder, Start start, const std::string& old) {
+    std::filesystem::remove(folder / "templates.tpl");
+    std::filesystem::remove(folder / "behind.tpl");
+    if (start == kExisting) {
+        WriteBytes(folder / "templates.tpl", old);
+        ::chmod((folder / "templates.tpl").c_str(), 0640);
+    } else if (start == kDanglingLink) {
+        ASSERT_EQ(::symlink("behind.tpl", (folder / "templates.tpl").c_str()), 0);
+    }
+}
+
+struct FailCase {
+    const char* name;
+    Start start;
+    bool append;
+    bool noExchange;
+};
+
+// Whichever operation fails, alone or with all after it, the write reports it naming the file,
+// leaves the file as it was (its old bytes with their mode, or no file behind the name) and no
+// temporary file. On a file system that cannot exchange names a failed folder sync comes after
+// the old file is gone: it is reported, and the new bytes stay.
+TEST(FileWriter, FailingAnyOperationLeavesTheFileAsItWas) {
+    const std::vector<FailCase> cases = {
+        {"replace", kExisting, false, false},
+        {"create", kMissing, false, false},
+        {"create behind a link", kDanglingLink, false, false},
+        {"replace without exchange", kExisting, false, true},
+        {"append", kExisting, true, false},
+        {"append to a new file", kMissing, true, false},
+        {"append behind a link", kDanglingLink, true, false},
+    };
     const std::string old = "old contents\r\n</F>";
     const std::string bytes = "new contents, long enough for several writes\r\n</F>";
-    FailEachOperation(
-        "rename", [&] { return ReplaceFile(path, bytes); },
-        [&] {
-            WriteBytes(path, old);
-            ::chmod(path.c_str(), 0640);
-        },
-        [&](int result, bool afterRename) {
-            EXPECT_EQ(result, afterRename ? RESULT_DONE : RESULT_CANNOT_WRITE);
-            EXPECT_EQ(ReadBytes(path), afterRename ? bytes : old);
-            EXPECT_EQ(ModeOf(path), 0640u);
-            EXPECT_EQ(folder.Names(), Names{"game.inf"});
-            if (!afterRename) {
-                EXPECT_EQ(LastWriteError().rfind(path + ": ", 0), 0u) << LastWriteError();
+    const std::size_t descriptors = OpenDescriptors();
+    for (const FailCase& c : cases) {
+        SCOPED_TRACE(c.name);
+        CTempFolder folder;
+        const std::string path = folder / "templates.tpl";
+        auto write = [&] {
+            return c.append ? AppendToFile(path, bytes) : ReplaceFile(path, bytes);
+        };
+        Reset(folder, c.start, old);
+        const Names before = folder.Names();
+        CFailingOps dry({}, 3);
+        dry.m_bNoExchange = c.noExchange;
+        ASSERT_EQ(WithOps(dry, write), RESULT_DONE);
+        EXPECT_EQ(ReadBytes(path), c.append && c.start == kExisting ? old + bytes : bytes);
+        std::size_t renamed = 0;  // the number of the rename that takes the old file away
+        for (std::size_t i = 0; i < dry.m_ops.size(); ++i) {
+            renamed = dry.m_ops[i] == "rename" ? i + 1 : renamed;
+        }
+        for (const CFault& fault : FaultsOf(dry.m_ops.size())) {
+            SCOPED_TRACE(fault.Name(dry.m_ops));
+            Reset(folder, c.start, old);
+            CFailingOps ops(fault, 3);
+            ops.m_bNoExchange = c.noExchange;
+            EXPECT_EQ(WithOps(ops, write), RESULT_CANNOT_WRITE);
+            EXPECT_EQ(LastWriteError().rfind(path + ": ", 0), 0u) << LastWriteError();
+            EXPECT_EQ(folder.Names(), before);
+            if (c.start == kExisting) {
+                EXPECT_EQ(ReadBytes(path), c.noExchange && fault.k > renamed ? bytes : old);
+                EXPECT_EQ(ModeOf(path), 0640u);
             }
-        });
+        }
+    }
+    EXPECT_EQ(OpenDescriptors(), descriptors);
 }
 
 TEST(FileWriter, AppendToFileAppendsOrCreates) {
@@ -199,36 +169,6 @@ TEST(FileWriter, AppendToFileAppendsOrCreates) {
     EXPECT_EQ(AppendToFile(folder / "link.tpl", "ghi"), RESULT_DONE);
     EXPECT_TRUE(IsLink(folder / "link.tpl"));
     EXPECT_EQ(ReadBytes(folder / "a.tpl"), "abcdef\r\nghi");
-}
-
-// Whatever step fails, the file is as it was: its old bytes, or no file when there was none
-// (behind a link to a missing file, the link stays and no file is left behind it).
-TEST(FileWriter, FailingAppendLeavesTheFileAsItWas) {
-    enum Start { kExisting, kMissing, kDanglingLink };
-    for (Start start : {kExisting, kMissing, kDanglingLink}) {
-        SCOPED_TRACE("start " + std::to_string(start));
-        CTempFolder folder;
-        const std::string path = folder / "templates.tpl";
-        FailEachOperation(
-            "close", [&] { return AppendToFile(path, "appended line\r\n"); },
-            [&] {
-                std::filesystem::remove(path);
-                std::filesystem::remove(folder / "behind.tpl");
-                if (start == kExisting) {
-                    WriteBytes(path, "first\r\n");
-                } else if (start == kDanglingLink) {
-                    ASSERT_EQ(::symlink("behind.tpl", path.c_str()), 0);
-                }
-            },
-            [&](int result, bool) {
-                EXPECT_EQ(result, RESULT_CANNOT_WRITE);
-                EXPECT_EQ(LastWriteError().rfind(path + ": ", 0), 0u) << LastWriteError();
-                EXPECT_EQ(folder.Names(), start == kMissing ? Names{} : Names{"templates.tpl"});
-                if (start == kExisting) {
-                    EXPECT_EQ(ReadBytes(path), "first\r\n");
-                }
-            });
-    }
 }
 
 }  // namespace

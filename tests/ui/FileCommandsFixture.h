@@ -1,0 +1,116 @@
+// The fixture of the File command tests: a copy of the sample workspace in a fresh folder, the
+// main window run with a script, and the steps most commands begin with.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "HeadlessTest.h"
+#include "UiFolder.h"
+#include "app/MainDlg.h"
+#include "gamedata/GameDatabase.h"
+#include "model/OobDocument.h"
+#include "model/OobItem.h"
+#include "model/TreeWalk.h"
+#include "resources/ResourceIds.h"
+
+using Script = std::function<void(CHeadlessUser&)>;
+
+// The tree's labels in pre-order, each indented by its depth.
+inline std::vector<std::string> Labels(const CTreeStore& tree) {
+    std::vector<std::string> labels;
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        labels.push_back(std::string(static_cast<std::size_t>(walk.Depth()), ' ') +
+                         tree.GetItemText(walk.Current()));
+    }
+    return labels;
+}
+
+// What the core reads from an order-of-battle file with the given target file.
+inline std::vector<std::string> LabelsOfFile(const std::string& oobFile,
+                                             const std::string& target) {
+    CGameDatabase database;
+    database.Load(target);
+    COobDocument document;
+    document.m_pDatabase = &database;
+    CTreeCtrl tree;
+    document.LoadTree(oobFile, tree);
+    return Labels(tree);
+}
+
+inline std::string WithReplaced(std::string text, const std::string& from, const std::string& to) {
+    const auto at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return at == std::string::npos ? text : text.replace(at, from.size(), to);
+}
+
+class FileCommandsTest : public HeadlessTest {
+protected:
+    FileCommandsTest() {
+        for (const char* name :
+             {"harnwick.txt", "valdoria.inf", "valdoria.oob", "frontier.oob", "valdoria.tpl"}) {
+            std::filesystem::copy_file(std::string(HW_SAMPLE_DIR) + "/" + name, folder / name);
+        }
+        WriteFileBytes(folder / "START.INI", folder.Path() + "\r\n");
+    }
+
+    // Runs the main window with script, and quits it afterwards.
+    void Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script) {
+        ui.OnDialog(IDD_HARNWICK_DIALOG, [&](CHeadlessUser& user) {
+            script(user, static_cast<CMainDlg&>(user.Dialog()));
+            ui.AnswerMessage("Do you want to quit?", IDYES);
+            user.Command(ID_FILE_EXIT);
+        });
+        dlg.DoModal();
+    }
+
+    // File, Load of path, accepted as it stands in "Workspace Properties".
+    void Load(CHeadlessUser& user, const std::string& path) {
+        ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
+        ui.AnswerFileDialog(path);
+        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) { ws.Click(IDC_WS_ACCEPT); });
+        user.Command(ID_FILE_LOAD);
+    }
+
+    // One of the New commands: the workspace file, then the OOB and target files picked in
+    // "Workspace Properties"; then answers the messages that follow.
+    void New(CHeadlessUser& user, int command, const std::string& workspace,
+             const std::string& oobFile, const std::string& target,
+             const std::vector<std::string>& laterMessages = {}) {
+        ui.AnswerMessage(IDYES);
+        ui.AnswerFileDialog(workspace);
+        ui.AnswerFileDialog(oobFile);
+        ui.AnswerFileDialog(target);
+        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+            ws.Click(IDC_WS_OOB_PICK);
+            ws.Click(IDC_WS_TARGET_PICK);
+            ws.Click(IDC_WS_ACCEPT);
+        });
+        for (const std::string& text : laterMessages) {
+            ui.AnswerMessage(text, IDOK);
+        }
+        user.Command(command);
+    }
+
+    // A change of the tree, as an edit command leaves it: the first army renamed, both
+    // status fields "*".
+    static void EditTree(CMainDlg& main) {
+        static_cast<COobItem*>(main.m_tree.GetItemData(main.m_tree.GetRootItem()))->m_strName =
+            "First Army";
+        main.m_strOobStatus = "*";
+        main.m_strBackupStatus = "*";
+        main.UpdateData(false);
+    }
+
+    static void ExpectStatus(CHeadlessUser& user, const char* oob, const char* backup) {
+        EXPECT_EQ(user.Text(IDC_OOB_STATUS), oob);
+        EXPECT_EQ(user.Text(IDC_BACKUP_STATUS), backup);
+    }
+
+    CUiFolder folder;
+    CMainDlg dlg;
+};
