@@ -227,8 +227,8 @@ int COobDocument::LoadTree(const std::string& path, CTreeStore& tree) {
 
 int COobDocument::InsertTemplate(const std::string& path, CTreeStore& tree, HTREEITEM parent,
                                  HTREEITEM insertAfter, int ordinal) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    std::ifstream in;
+    if (!OpenToRead(path, in)) {
         return RESULT_CANNOT_OPEN;
     }
     m_nLineNumber = 0;
