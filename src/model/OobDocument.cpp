@@ -238,7 +238,10 @@ int COobDocument::InsertTemplate(const std::string& path, CTreeStore& tree, HTRE
         if (read == LineRead::End) {
             break;
         }
-        if (line == "</T>") {
+        // The end tag is taken as the block reader below takes it, blanks and tabs around it
+        // dropped: else an indented tag would end a block there but not be counted here.
+        m_tokenizer.SetLine(line);
+        if (m_tokenizer.Line() == "</T>") {
             ++passed;
         }
     }
