@@ -65,8 +65,8 @@ int CWorkspace::Save(const std::string& path) {
 
 int CWorkspace::Load(const std::string& path) {
     m_strPath = path;
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    std::ifstream in;
+    if (!OpenToRead(path, in)) {
         return RESULT_CANNOT_OPEN;
     }
     ReadFrom(in);

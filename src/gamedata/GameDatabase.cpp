@@ -36,13 +36,18 @@ private:
 
 // Every record a section's line gives is kept, but a type without a name (a blank line, say):
 // no unit can name it, and written back, its cost modifier would move into the name. Its weapon
-// lines go with it.
+// lines go with it. Likewise a kind without a keyword (a blank line, a lone word, an end tag
+// cut short): every line begins with the empty keyword, so it would claim each order-of-battle
+// line that no other kind claims.
 template <typename Record>
 bool IsKept(const Record&) {
     return true;
 }
 bool IsKept(const CTypeRecord& type) {
     return !type.m_strType.empty();
+}
+bool IsKept(const CKindRecord& kind) {
+    return !kind.m_strKeyword.empty();
 }
 
 template <typename Record>
@@ -161,8 +166,8 @@ int CGameDatabase::Save(const std::string& path) {
 
 int CGameDatabase::Load(const std::string& path) {
     m_strFilePath = path;
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    std::ifstream in;
+    if (!OpenToRead(path, in)) {
         return RESULT_CANNOT_OPEN;
     }
     ReadFrom(in);

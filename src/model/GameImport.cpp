@@ -81,8 +81,8 @@ HTREEITEM COobDocument::FindItemByKey(const std::string& key, const CTreeStore& 
 }
 
 int COobDocument::GetData(const std::string& path, CTreeStore& tree, int flags) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    std::ifstream in;
+    if (!OpenToRead(path, in)) {
         return RESULT_CANNOT_OPEN;
     }
     CTreeStore::CBulkChange bulk(tree);

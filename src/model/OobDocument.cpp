@@ -227,8 +227,8 @@ int COobDocument::LoadTree(const std::string& path, CTreeStore& tree) {
 
 int COobDocument::InsertTemplate(const std::string& path, CTreeStore& tree, HTREEITEM parent,
                                  HTREEITEM insertAfter, int ordinal) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    std::ifstream in;
+    if (!OpenToRead(path, in)) {
         return RESULT_CANNOT_OPEN;
     }
     m_nLineNumber = 0;
@@ -238,7 +238,10 @@ int COobDocument::InsertTemplate(const std::string& path, CTreeStore& tree, HTRE
         if (read == LineRead::End) {
             break;
         }
-        if (line == "</T>") {
+        // The end tag is taken as the block reader below takes it, blanks and tabs around it
+        // dropped: else an indented tag would end a block there but not be counted here.
+        m_tokenizer.SetLine(line);
+        if (m_tokenizer.Line() == "</T>") {
             ++passed;
         }
     }

@@ -33,6 +33,15 @@ std::string_view TrimLine(std::string_view line) {
     return line.substr(0, kMaxLineLength);
 }
 
+bool OpenToRead(const std::string& path, std::ifstream& in) {
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error)) {
+        return false;
+    }
+    in.open(path, std::ios::binary);
+    return in.is_open();
+}
+
 bool ReadWholeFile(const std::string& path, std::string& text) {
     std::error_code error;
     if (std::filesystem::is_directory(path, error)) {

@@ -24,6 +24,10 @@ LineRead ReadTextLine(std::istream& in, std::string& line);
 // one carriage return at its end dropped, cut at kMaxLineLength.
 std::string_view TrimLine(std::string_view line);
 
+// Opens path to be read in binary; false when it does not open or is a folder, which the stream
+// library would open and read as an empty file.
+bool OpenToRead(const std::string& path, std::ifstream& in);
+
 // The whole file at path; false when it does not open.
 bool ReadWholeFile(const std::string& path, std::string& text);
 

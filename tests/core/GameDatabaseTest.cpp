@@ -138,7 +138,7 @@ TEST(GameDatabase, ReadsDamagedLinesAsDecided) {
         {"\tNorland|Sudmark|\r\n", "", "|2|\r\n\t</A>||\r\n</A>\r\n\t0|1|U |Unit|\r\n\t4|"},
         {"Norland|Sudmark|", "Norland||Sudmark|", "\tNorland|Sudmark|\r\n"},
         {"|0.25|", "||", "\t1|4|2|100|40|0||\r\n\t2|3|"},  // later fields move left
-        {"\t0|1|U |Unit|", "\t4|", "\t4|0|||\r\n\t4|2|"},
+        {"\t0|1|U |Unit|", "\t4|", "\t7|9|Army |Army|\r\n\t4|2|"},
         {"\t1|4|0.25|2|100|40|Line foot|", "\t1|4|", "\t1|4|0|0|0|0||\r\n\t2|"},
         {"\t\tMusket|0.05|Smooth musket|", "\t\tMusket", "\t\tMusket|0||\r\n\t\tRifle|"},
         {"\t6|3|1|1500|Brigade|", "\t6", "\t6|0|0|0||\r\n\t0|1|"},
