@@ -18,8 +18,8 @@ public:
     // Must come before the first SetLine: the delimiter takes part in normalisation.
     void SetDelimiter(char delimiter);
     void SetLine(std::string_view text);
-    std::string GetLine() const { return m_strLine; }
-    std::string_view Line() const { return m_strLine; }
+    std::string GetLine() const { return std::string(Line()); }
+    std::string_view Line() const { return std::string_view(m_line.data(), m_nLength); }
 
     // The cursor is wider than a line needs so that stepping past the end never wraps back
     // to the start of the line.
@@ -30,7 +30,7 @@ public:
     double ReadNumber();
     std::string ReadString() { return std::string(ReadField()); }
     std::string ReadRest() { return std::string(RestView()); }
-    bool MatchesPrefix(std::string_view text) const { return PrefixMatches(m_strLine, text); }
+    bool MatchesPrefix(std::string_view text) const { return PrefixMatches(Line(), text); }
 
     // ReadString and ReadRest without the copy: views into the line, valid until the next
     // SetLine.
@@ -45,9 +45,14 @@ public:
     }
 
 private:
-    bool AtEnd() const { return m_nCursor >= m_strLine.size(); }
+    bool AtEnd() const { return m_nCursor >= m_nLength; }
+    bool IsSeparator(char c) const { return m_bSeparator[static_cast<unsigned char>(c)]; }
+    // True when text holds a tab or two delimiters in a row, which compacting would change.
+    bool NeedsCompacting(const char* begin, const char* end) const;
 
-    std::string m_strLine;
+    // The normalised line: a fixed buffer, so that setting a line never allocates.
+    std::array<char, kMaxLine> m_line;
+    std::size_t m_nLength = 0;
     std::size_t m_nCursor = 0;
     char m_cDelimiter = '\0';
     std::array<bool, 256> m_bSeparator{};  // the tab and the delimiter, by byte value
