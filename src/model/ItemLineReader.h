@@ -16,9 +16,9 @@ public:
 
     template <typename Int>
     Int Number() {
-        const double value = m_tokenizer.ReadNumber();
+        const long long value = m_tokenizer.ReadTruncated();
         ++m_tokenizer.Position();
-        return StoreTruncated<Int>(value);
+        return static_cast<Int>(value);
     }
     // One word: the name of a record. A normalised line has no empty fields, so an empty word
     // means the line ended before it.

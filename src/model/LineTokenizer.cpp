@@ -53,21 +53,27 @@ std::uint64_t EqualBytes(std::uint64_t word, std::uint64_t pattern) {
 bool CLineTokenizer::NeedsCompacting(const char* begin, const char* end) const {
     const std::uint64_t tabs = static_cast<unsigned char>('\t') * kOnes;
     const std::uint64_t delimiters = static_cast<unsigned char>(m_cDelimiter) * kOnes;
-    const char* p = begin;
-    for (; end - p >= 9; p += 8) {
+    // The last character is never a separator (the ends are trimmed), so positions up to the
+    // last but one are checked; a last word overlapping the one before covers the tail.
+    const auto check = [&](const char* p) {
         const std::uint64_t here = Load8(p);
-        const std::uint64_t next = Load8(p + 1);
-        if ((EqualBytes(here, tabs) |
-             (EqualBytes(here, delimiters) & EqualBytes(next, delimiters))) != 0) {
+        return (EqualBytes(here, tabs) |
+                (EqualBytes(here, delimiters) & EqualBytes(Load8(p + 1), delimiters))) != 0;
+    };
+    if (end - begin < 9) {
+        for (const char* p = begin; p + 1 < end; ++p) {
+            if (*p == '\t' || (*p == m_cDelimiter && p[1] == m_cDelimiter)) {
+                return true;
+            }
+        }
+        return false;
+    }
+    for (const char* p = begin; end - p >= 9; p += 8) {
+        if (check(p)) {
             return true;
         }
     }
-    for (; p < end; ++p) {
-        if (*p == '\t' || (*p == m_cDelimiter && p + 1 < end && p[1] == m_cDelimiter)) {
-            return true;
-        }
-    }
-    return false;
+    return check(end - 9);
 }
 
 // Separators (tabs and the delimiter) before the first field and after the last are dropped,

@@ -7,6 +7,11 @@
 #include <string>
 #include <string_view>
 
+// Numbers read from a line are stored by truncating toward zero and keeping the low bits of the
+// field's width (300 in an 8-bit field becomes 44). Defined for every double, NaN and infinities
+// included (they give 0), so no file can cause an out-of-range conversion.
+long long TruncateToInteger(double value);
+
 class CLineTokenizer {
 public:
     // The longest line the tokenizer holds; longer text is cut.
@@ -28,6 +33,28 @@ public:
     void SeekField(int n);
 
     double ReadNumber();
+    // TruncateToInteger(ReadNumber()), with the common field (a few digits, perhaps a minus
+    // sign) read without the general number reader.
+    long long ReadTruncated() {
+        constexpr std::size_t kPlainDigits = 9;  // always below 2^31, so no reduction is needed
+        std::size_t i = m_nCursor;
+        const bool negative = i < m_nLength && m_line[i] == '-';
+        i += negative ? 1 : 0;
+        long long value = 0;
+        const std::size_t limit = i + kPlainDigits < m_nLength ? i + kPlainDigits : m_nLength;
+        for (; i < limit; ++i) {
+            const unsigned digit = static_cast<unsigned char>(m_line[i]) - unsigned{'0'};
+            if (digit > 9 || m_line[i] == m_cDelimiter) {
+                break;
+            }
+            value = value * 10 + digit;
+        }
+        if (i < m_nLength && m_line[i] != m_cDelimiter) {
+            return TruncateToInteger(ReadNumber());
+        }
+        m_nCursor = i;
+        return negative ? -value : value;
+    }
     std::string ReadString() { return std::string(ReadField()); }
     std::string ReadRest() { return std::string(RestView()); }
     bool MatchesPrefix(std::string_view text) const { return PrefixMatches(Line(), text); }
@@ -58,10 +85,6 @@ private:
     std::array<bool, 256> m_bSeparator{};  // the tab and the delimiter, by byte value
 };
 
-// Numbers read from a line are stored by truncating toward zero and keeping the low bits of the
-// field's width (300 in an 8-bit field becomes 44). Defined for every double, NaN and infinities
-// included (they give 0), so no file can cause an out-of-range conversion.
-long long TruncateToInteger(double value);
 template <typename Int>
 Int StoreTruncated(double value) {
     return static_cast<Int>(TruncateToInteger(value));
