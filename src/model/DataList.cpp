@@ -87,7 +87,7 @@ CDataList::Slot& CDataList::SlotOf(std::string_view key, std::size_t hash) {
     const std::size_t mask = m_slots.size() - 1;
     for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
         Slot& slot = m_slots[i];
-        if (!slot.node || (slot.hash == hash && m_keyOf(*slot.node->m_pPayload) == key)) {
+        if (!slot.node || (slot.hash == hash && slot.key == key)) {
             return slot;
         }
     }
@@ -99,7 +99,7 @@ void CDataList::Index(CDataListNode* node, bool replace) {
         old.swap(m_slots);
         for (const Slot& slot : old) {
             if (slot.node) {
-                SlotOf(m_keyOf(*slot.node->m_pPayload), slot.hash) = slot;
+                SlotOf(slot.key, slot.hash) = slot;
             }
         }
     }
@@ -108,9 +108,9 @@ void CDataList::Index(CDataListNode* node, bool replace) {
     Slot& slot = SlotOf(key, hash);
     if (!slot.node) {
         ++m_nIndexed;
-        slot = {hash, node};
+        slot = {hash, key, node};
     } else if (replace) {
-        slot.node = node;
+        slot = {hash, key, node};
     }
 }
 
