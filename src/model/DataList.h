@@ -60,8 +60,8 @@ private:
     CDataListNode* m_pCursor = nullptr;
     KeyOf m_keyOf;
     // The index: open addressing over a power-of-two table, at most half full, each slot the
-    // key's hash, the key and the node (none: empty). Records are never taken out one by one, so slots
-    // are only ever filled or overwritten.
+    // key's hash, the key and the node (none: empty). Records are never taken out one by one, so
+    // slots are only ever filled or overwritten.
     struct Slot {
         std::size_t hash = 0;
         std::string_view key;  // the record's own key, which does not change while indexed
