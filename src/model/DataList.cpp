@@ -83,11 +83,28 @@ void CDataList::Clear() {
     Init();
 }
 
+namespace {
+
+// Keys are a few characters long: a loop decides sooner than a call.
+bool SameKey(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (a[i] != b[i]) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
 CDataList::Slot& CDataList::SlotOf(std::string_view key, std::size_t hash) {
     const std::size_t mask = m_slots.size() - 1;
     for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
         Slot& slot = m_slots[i];
-        if (!slot.node || (slot.hash == hash && slot.key == key)) {
+        if (!slot.node || (slot.hash == hash && SameKey(slot.key, key))) {
             return slot;
         }
     }
