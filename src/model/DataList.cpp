@@ -3,7 +3,8 @@
 void CDataList::Init() {
     m_nCount = 0;
     m_pHead = m_pTail = m_pCursor = nullptr;
-    m_index.clear();
+    m_slots.clear();
+    m_nIndexed = 0;
 }
 
 void CDataList::PushBack(std::unique_ptr<CDataObject> payload) {
@@ -19,7 +20,7 @@ void CDataList::PushBack(std::unique_ptr<CDataObject> payload) {
     ++m_nCount;
     m_pCursor = node;
     if (m_keyOf) {
-        m_index.emplace(m_keyOf(*node->m_pPayload), node);  // an earlier record keeps the key
+        Index(node, false);  // an earlier record keeps the key
     }
 }
 
@@ -39,7 +40,7 @@ void CDataList::PushFront(std::unique_ptr<CDataObject> payload) {
     }
     m_pCursor = node;
     if (m_keyOf) {
-        m_index[m_keyOf(*node->m_pPayload)] = node;  // the new head is the first match now
+        Index(node, true);  // the new head is the first match now
     }
 }
 
@@ -82,8 +83,55 @@ void CDataList::Clear() {
     Init();
 }
 
+namespace {
+
+// Keys are a few characters long: a loop decides sooner than a call.
+bool SameKey(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (a[i] != b[i]) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+CDataList::Slot& CDataList::SlotOf(std::string_view key, std::size_t hash) {
+    const std::size_t mask = m_slots.size() - 1;
+    for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
+        Slot& slot = m_slots[i];
+        if (!slot.node || (slot.hash == hash && SameKey(slot.key, key))) {
+            return slot;
+        }
+    }
+}
+
+void CDataList::Index(CDataListNode* node, bool replace) {
+    if (2 * (m_nIndexed + 1) > m_slots.size()) {
+        std::vector<Slot> old(m_slots.size() < 8 ? 16 : 2 * m_slots.size());
+        old.swap(m_slots);
+        for (const Slot& slot : old) {
+            if (slot.node) {
+                SlotOf(slot.key, slot.hash) = slot;
+            }
+        }
+    }
+    const std::string& key = m_keyOf(*node->m_pPayload);
+    const std::size_t hash = Hash(key);
+    Slot& slot = SlotOf(key, hash);
+    if (!slot.node) {
+        ++m_nIndexed;
+        slot = {hash, key, node};
+    } else if (replace) {
+        slot = {hash, key, node};
+    }
+}
+
 CDataObject* CDataList::FindByKey(std::string_view key) {
-    auto it = m_index.find(key);
-    m_pCursor = it == m_index.end() ? nullptr : it->second;
+    m_pCursor = m_slots.empty() ? nullptr : SlotOf(key, Hash(key)).node;
     return CurrentPayload();
 }

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 #include "model/DataObject.h"
 
@@ -59,16 +59,26 @@ private:
     CDataListNode* m_pTail = nullptr;
     CDataListNode* m_pCursor = nullptr;
     KeyOf m_keyOf;
-    // Keys are short names: FNV-1a hashes them in a few instructions a byte.
-    struct KeyHash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view key) const {
-            std::size_t hash = 14695981039346656037ULL;
-            for (unsigned char c : key) {
-                hash = (hash ^ c) * 1099511628211ULL;
-            }
-            return hash;
-        }
+    // The index: open addressing over a power-of-two table, at most half full, each slot the
+    // key's hash, the key and the node (none: empty). Records are never taken out one by one, so
+    // slots are only ever filled or overwritten.
+    struct Slot {
+        std::size_t hash = 0;
+        std::string_view key;  // the record's own key, which does not change while indexed
+        CDataListNode* node = nullptr;
     };
-    std::unordered_map<std::string, CDataListNode*, KeyHash, std::equal_to<>> m_index;
+    // Keys are short names: FNV-1a hashes them in a few instructions a byte.
+    static std::size_t Hash(std::string_view key) {
+        std::size_t hash = 14695981039346656037ULL;
+        for (unsigned char c : key) {
+            hash = (hash ^ c) * 1099511628211ULL;
+        }
+        return hash;
+    }
+    // The slot holding key, or the empty slot where it would go. The table must not be empty.
+    Slot& SlotOf(std::string_view key, std::size_t hash);
+    // Indexes node under its key; replace says whether it takes the key from an earlier record.
+    void Index(CDataListNode* node, bool replace);
+    std::vector<Slot> m_slots;
+    std::size_t m_nIndexed = 0;
 };

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "model/LineTokenizer.h"
@@ -16,9 +17,9 @@ public:
 
     template <typename Int>
     Int Number() {
-        const double value = m_tokenizer.ReadNumber();
+        const long long value = m_tokenizer.ReadTruncated();
         ++m_tokenizer.Position();
-        return StoreTruncated<Int>(value);
+        return static_cast<Int>(value);
     }
     // One word: the name of a record. A normalised line has no empty fields, so an empty word
     // means the line ended before it.
@@ -31,8 +32,9 @@ public:
     // True when the line ended before a record name it should hold. No line can name a record
     // with an empty name, so the item could not be written back as it was read.
     bool WordMissing() const { return m_bWordMissing; }
-    // The rest of the line: the item's name, with its inner blanks.
-    std::string_view Rest() const { return m_tokenizer.RestView(); }
+    // The rest of the line: the item's name, with its inner blanks. A new string moved into the
+    // item costs less than assigning the text into the item's empty one.
+    std::string Rest() const { return std::string(m_tokenizer.RestView()); }
     // The normalised line, as the warnings quote it.
     std::string_view Line() const { return m_tokenizer.Line(); }
 

@@ -1,6 +1,8 @@
 #include "model/LineTokenizer.h"
 
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 
 long long TruncateToInteger(double value) {
     if (value > -2147483648.0 && value < 2147483648.0) {
@@ -26,32 +28,88 @@ void CLineTokenizer::SetDelimiter(char delimiter) {
     m_bSeparator[static_cast<unsigned char>(delimiter)] = true;
 }
 
-// Compacts the line in place, in one pass: separators (tabs and the delimiter) before the first
-// field and after the last are dropped, and every run of them between fields becomes one
-// delimiter.
+namespace {
+
+constexpr std::uint64_t kOnes = 0x0101010101010101ULL;
+constexpr std::uint64_t kLow7 = 0x7F7F7F7F7F7F7F7FULL;
+
+std::uint64_t Load8(const char* p) {
+    std::uint64_t word;
+    std::memcpy(&word, p, sizeof word);
+    return word;
+}
+
+// 0x80 in every byte of word that equals the byte of pattern (pattern is that byte times
+// kOnes), 0 in every other byte: exact, with no carry from one byte into the next.
+std::uint64_t EqualBytes(std::uint64_t word, std::uint64_t pattern) {
+    const std::uint64_t x = word ^ pattern;
+    return ~(((x & kLow7) + kLow7) | x | kLow7);
+}
+
+}  // namespace
+
+// Eight positions a step: a tab at i, or delimiters at both i and i + 1 (read as the same word
+// shifted by one byte).
+bool CLineTokenizer::NeedsCompacting(const char* begin, const char* end) const {
+    const std::uint64_t tabs = static_cast<unsigned char>('\t') * kOnes;
+    const std::uint64_t delimiters = static_cast<unsigned char>(m_cDelimiter) * kOnes;
+    // The last character is never a separator (the ends are trimmed), so positions up to the
+    // last but one are checked; a last word overlapping the one before covers the tail.
+    const auto check = [&](const char* p) {
+        const std::uint64_t here = Load8(p);
+        return (EqualBytes(here, tabs) |
+                (EqualBytes(here, delimiters) & EqualBytes(Load8(p + 1), delimiters))) != 0;
+    };
+    if (end - begin < 9) {
+        for (const char* p = begin; p + 1 < end; ++p) {
+            if (*p == '\t' || (*p == m_cDelimiter && p[1] == m_cDelimiter)) {
+                return true;
+            }
+        }
+        return false;
+    }
+    for (const char* p = begin; end - p >= 9; p += 8) {
+        if (check(p)) {
+            return true;
+        }
+    }
+    return check(end - 9);
+}
+
+// Separators (tabs and the delimiter) before the first field and after the last are dropped,
+// and every run of them between fields becomes one delimiter. Most lines need nothing more
+// than their ends trimmed and are copied whole.
 void CLineTokenizer::SetLine(std::string_view text) {
-    m_strLine.assign(text.substr(0, kMaxLine));
+    text = text.substr(0, kMaxLine);
     m_nCursor = 0;
-    char* const begin = m_strLine.data();
-    const std::size_t length = m_strLine.size();
-    std::size_t out = 0;
-    bool inToken = false;
-    for (std::size_t i = 0; i < length; ++i) {
-        const char c = begin[i];
-        if (m_bSeparator[static_cast<unsigned char>(c)]) {
+    const char* first = text.data();
+    const char* last = first + text.size();
+    while (first < last && IsSeparator(*first)) {
+        ++first;
+    }
+    while (last > first && IsSeparator(last[-1])) {
+        --last;
+    }
+    char* const out = m_line.data();
+    if (!NeedsCompacting(first, last)) {
+        m_nLength = static_cast<std::size_t>(last - first);
+        std::memcpy(out, first, m_nLength);
+        return;
+    }
+    std::size_t length = 0;
+    bool inToken = true;
+    for (const char* p = first; p < last; ++p) {
+        if (IsSeparator(*p)) {
             if (inToken) {
-                begin[out++] = m_cDelimiter;
+                out[length++] = m_cDelimiter;
                 inToken = false;
             }
         } else {
-            begin[out++] = c;
+            out[length++] = *p;
             inToken = true;
         }
     }
-    if (out > 0 && !inToken) {
-        --out;
-    }
-    m_strLine.resize(out);
+    m_nLength = length;
 }
 
 void CLineTokenizer::SeekField(int n) {
@@ -60,29 +118,32 @@ void CLineTokenizer::SeekField(int n) {
         return;
     }
     int seen = 0;
-    for (std::size_t i = 0; i < m_strLine.size(); ++i) {
-        if (m_strLine[i] == m_cDelimiter && ++seen == n) {
+    for (std::size_t i = 0; i < m_nLength; ++i) {
+        if (m_line[i] == m_cDelimiter && ++seen == n) {
             m_nCursor = i + 1;
             return;
         }
     }
-    m_nCursor = m_strLine.size();
+    m_nCursor = m_nLength;
 }
 
 double CLineTokenizer::ReadNumber() {
+    const char* const line = m_line.data();
+    const char delimiter = m_cDelimiter;
+    std::size_t i = m_nCursor;
     double sign = 1.0;
     double value = 0.0;
     bool fraction = false;
     int exponent = 0;
-    if (!AtEnd() && m_strLine[m_nCursor] == '-') {
+    if (i < m_nLength && line[i] == '-') {
         sign = -1.0;
-        ++m_nCursor;
+        ++i;
     }
     // Every character up to the delimiter is taken: digits build the value, the first full stop
     // starts the fraction, and anything else (a second full stop, a minus sign, a letter) is
     // passed over.
-    while (!AtEnd() && m_strLine[m_nCursor] != m_cDelimiter) {
-        const char c = m_strLine[m_nCursor++];
+    for (; i < m_nLength && line[i] != delimiter; ++i) {
+        const char c = line[i];
         if (c >= '0' && c <= '9') {
             const int d = c - '0';
             if (fraction) {
@@ -95,22 +156,24 @@ double CLineTokenizer::ReadNumber() {
             fraction = true;
         }
     }
+    m_nCursor = i;
     return sign * value;
 }
 
 std::string_view CLineTokenizer::ReadField() {
-    const std::size_t start = m_nCursor < m_strLine.size() ? m_nCursor : m_strLine.size();
+    const char* const line = m_line.data();
+    const std::size_t start = m_nCursor < m_nLength ? m_nCursor : m_nLength;
     std::size_t end = start;
-    while (end < m_strLine.size() && m_strLine[end] != m_cDelimiter) {
+    while (end < m_nLength && line[end] != m_cDelimiter) {
         ++end;
     }
     m_nCursor = end > m_nCursor ? end : m_nCursor;
-    return std::string_view(m_strLine).substr(start, end - start);
+    return std::string_view(line + start, end - start);
 }
 
 std::string_view CLineTokenizer::RestView() const {
     if (AtEnd()) {
         return {};
     }
-    return std::string_view(m_strLine).substr(m_nCursor, kMaxLine);
+    return Line().substr(m_nCursor, kMaxLine);
 }

@@ -7,6 +7,11 @@
 #include <string>
 #include <string_view>
 
+// Numbers read from a line are stored by truncating toward zero and keeping the low bits of the
+// field's width (300 in an 8-bit field becomes 44). Defined for every double, NaN and infinities
+// included (they give 0), so no file can cause an out-of-range conversion.
+long long TruncateToInteger(double value);
+
 class CLineTokenizer {
 public:
     // The longest line the tokenizer holds; longer text is cut.
@@ -18,8 +23,8 @@ public:
     // Must come before the first SetLine: the delimiter takes part in normalisation.
     void SetDelimiter(char delimiter);
     void SetLine(std::string_view text);
-    std::string GetLine() const { return m_strLine; }
-    std::string_view Line() const { return m_strLine; }
+    std::string GetLine() const { return std::string(Line()); }
+    std::string_view Line() const { return std::string_view(m_line.data(), m_nLength); }
 
     // The cursor is wider than a line needs so that stepping past the end never wraps back
     // to the start of the line.
@@ -28,9 +33,31 @@ public:
     void SeekField(int n);
 
     double ReadNumber();
+    // TruncateToInteger(ReadNumber()), with the common field (a few digits, perhaps a minus
+    // sign) read without the general number reader.
+    long long ReadTruncated() {
+        constexpr std::size_t kPlainDigits = 9;  // always below 2^31, so no reduction is needed
+        std::size_t i = m_nCursor;
+        const bool negative = i < m_nLength && m_line[i] == '-';
+        i += negative ? 1 : 0;
+        long long value = 0;
+        const std::size_t limit = i + kPlainDigits < m_nLength ? i + kPlainDigits : m_nLength;
+        for (; i < limit; ++i) {
+            const unsigned digit = static_cast<unsigned char>(m_line[i]) - unsigned{'0'};
+            if (digit > 9 || m_line[i] == m_cDelimiter) {
+                break;
+            }
+            value = value * 10 + digit;
+        }
+        if (i < m_nLength && m_line[i] != m_cDelimiter) {
+            return TruncateToInteger(ReadNumber());
+        }
+        m_nCursor = i;
+        return negative ? -value : value;
+    }
     std::string ReadString() { return std::string(ReadField()); }
     std::string ReadRest() { return std::string(RestView()); }
-    bool MatchesPrefix(std::string_view text) const { return PrefixMatches(m_strLine, text); }
+    bool MatchesPrefix(std::string_view text) const { return PrefixMatches(Line(), text); }
 
     // ReadString and ReadRest without the copy: views into the line, valid until the next
     // SetLine.
@@ -40,23 +67,29 @@ public:
     // line and text agree over the length of the shorter of the two.
     static bool PrefixMatches(std::string_view line, std::string_view text) {
         const std::size_t n = line.size() < text.size() ? line.size() : text.size();
-        // The first characters decide most comparisons, without a call.
-        return n == 0 || (line[0] == text[0] && line.substr(0, n) == text.substr(0, n));
+        // Keywords are a few characters long: a loop decides sooner than a call.
+        for (std::size_t i = 0; i < n; ++i) {
+            if (line[i] != text[i]) {
+                return false;
+            }
+        }
+        return true;
     }
 
 private:
-    bool AtEnd() const { return m_nCursor >= m_strLine.size(); }
+    bool AtEnd() const { return m_nCursor >= m_nLength; }
+    bool IsSeparator(char c) const { return m_bSeparator[static_cast<unsigned char>(c)]; }
+    // True when text holds a tab or two delimiters in a row, which compacting would change.
+    bool NeedsCompacting(const char* begin, const char* end) const;
 
-    std::string m_strLine;
+    // The normalised line: a fixed buffer, so that setting a line never allocates.
+    std::array<char, kMaxLine> m_line;
+    std::size_t m_nLength = 0;
     std::size_t m_nCursor = 0;
     char m_cDelimiter = '\0';
     std::array<bool, 256> m_bSeparator{};  // the tab and the delimiter, by byte value
 };
 
-// Numbers read from a line are stored by truncating toward zero and keeping the low bits of the
-// field's width (300 in an 8-bit field becomes 44). Defined for every double, NaN and infinities
-// included (they give 0), so no file can cause an out-of-range conversion.
-long long TruncateToInteger(double value);
 template <typename Int>
 Int StoreTruncated(double value) {
     return static_cast<Int>(TruncateToInteger(value));

@@ -1,5 +1,8 @@
 #include "model/OobDocument.h"
 
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <string_view>
@@ -204,8 +207,12 @@ void COobDocument::LinePassedOver(const std::string&) {}
 
 int COobDocument::LoadTree(const std::string& path, CTreeStore& tree) {
     m_strName = path;
-    std::string text;
-    if (!ReadWholeFile(path, text)) {
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error)) {
+        return RESULT_CANNOT_OPEN;
+    }
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
         return RESULT_CANNOT_OPEN;
     }
     m_nLineNumber = 0;
@@ -213,12 +220,32 @@ int COobDocument::LoadTree(const std::string& path, CTreeStore& tree) {
     {
         CTreeStore::CBulkChange bulk(tree);
         // Lines are taken up to their line feed; the characters after the last line feed are
-        // not read, as a line-by-line reader would meet the end of the file there.
-        std::size_t start = 0;
-        for (std::size_t feed; (feed = text.find('\n', start)) != std::string::npos;
-             start = feed + 1) {
-            ReadRawLine(TrimLine(std::string_view(text).substr(start, feed - start)), tree, state,
-                        true);
+        // not read, as a line-by-line reader would meet the end of the file there. The file is
+        // read a chunk at a time, so that its text stays in the cache while its lines are read.
+        constexpr std::size_t kChunk = 64 * 1024;
+        // A line split between chunks waits here. Two characters beyond what a line keeps are
+        // enough to read it as the whole line reads: a longer line is cut at the same place.
+        constexpr std::size_t kHeld = kMaxLineLength + 2;
+        const auto chunk = std::make_unique_for_overwrite<char[]>(kChunk);
+        std::string held;
+        while (in) {
+            in.read(chunk.get(), kChunk);
+            const std::size_t size = static_cast<std::size_t>(in.gcount());
+            const char* next = chunk.get();
+            const char* const end = next + size;
+            while (const auto* feed = static_cast<const char*>(
+                       std::memchr(next, '\n', static_cast<std::size_t>(end - next)))) {
+                std::string_view line(next, static_cast<std::size_t>(feed - next));
+                if (!held.empty()) {
+                    held.append(line.substr(0, kHeld - std::min(held.size(), kHeld)));
+                    line = held;
+                }
+                ReadRawLine(TrimLine(line), tree, state, true);
+                held.clear();
+                next = feed + 1;
+            }
+            const std::string_view rest(next, static_cast<std::size_t>(end - next));
+            held.append(rest.substr(0, kHeld - std::min(held.size(), kHeld)));
         }
     }
     tree.SelectItem(tree.GetRootItem());

@@ -62,10 +62,11 @@ CBaseTypeRecord* COobItem::FindBaseType(const CTypeRecord* type) {
     if (!m_pDatabase || !type) {
         return nullptr;
     }
-    CDataList& bases = m_pDatabase->m_BaseTypes;
-    for (bases.Rewind(); bases.Current(); bases.Next()) {
-        auto* base = static_cast<CBaseTypeRecord*>(bases.CurrentPayload());
-        if (base->ClassCode() == type->ClassCode()) {
+    // Walked by the nodes rather than the list's cursor: this runs for every line read.
+    const auto classCode = type->ClassCode();
+    for (CDataListNode* n = m_pDatabase->m_BaseTypes.Head(); n; n = n->m_pNext) {
+        auto* base = static_cast<CBaseTypeRecord*>(n->m_pPayload.get());
+        if (base->ClassCode() == classCode) {
             return base;
         }
     }
@@ -101,9 +102,8 @@ CKindRecord* FindKindInLine(CGameDatabase* database, std::string_view line) {
     if (!database) {
         return nullptr;
     }
-    CDataList& kinds = database->m_Kinds;
-    for (kinds.Rewind(); kinds.Current(); kinds.Next()) {
-        auto* kind = static_cast<CKindRecord*>(kinds.CurrentPayload());
+    for (CDataListNode* n = database->m_Kinds.Head(); n; n = n->m_pNext) {
+        auto* kind = static_cast<CKindRecord*>(n->m_pPayload.get());
         if (CLineTokenizer::PrefixMatches(line, kind->m_strKeyword)) {
             return kind;
         }

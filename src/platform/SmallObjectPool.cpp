@@ -35,7 +35,7 @@ public:
         const std::size_t bytes = sizeClass * kGranule;
         m_nInUse += bytes;
         if (m_nLeft < bytes) {
-            m_slabs.push_back(std::make_unique<std::byte[]>(kSlabSize));
+            m_slabs.push_back(std::make_unique_for_overwrite<std::byte[]>(kSlabSize));
             m_pNext = m_slabs.back().get();
             m_nLeft = kSlabSize;
         }

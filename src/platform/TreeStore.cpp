@@ -76,8 +76,13 @@ HTREEITEM CTreeStore::Insert(std::unique_ptr<CTreeEntry> entry, HTREEITEM parent
     if (owner.m_children.empty()) {
         owner.m_children.reserve(8);
     }
-    owner.m_children.insert(owner.m_children.begin() + static_cast<std::ptrdiff_t>(row),
-                            std::move(entry));
+    // A file read in appends every entry: that takes no shifting.
+    if (row == owner.m_children.size()) {
+        owner.m_children.push_back(std::move(entry));
+    } else {
+        owner.m_children.insert(owner.m_children.begin() + static_cast<std::ptrdiff_t>(row),
+                                std::move(entry));
+    }
     if (row + 1 < owner.m_children.size()) {
         Renumber(owner, row + 1);
     }

@@ -289,4 +289,25 @@ TEST_F(OobDocument, BlocksDeeperThanTheParentsTableAreCountedButNotFilled) {
                                         "30:" + kUnit + "still deep"}));
 }
 
+// The file reader takes its text a piece at a time: lines of every length around the cut, with
+// and without a carriage return, falling across the pieces at every offset, read as the
+// line-by-line template reader reads them.
+TEST_F(OobDocument, LinesAcrossReadPiecesReadAsLineByLine) {
+    std::string text = "3\n";
+    for (int i = 0; text.size() < 300000; ++i) {
+        const std::string name(static_cast<std::size_t>(i * 7 % 300),
+                               static_cast<char>('a' + i % 26));
+        text += kUnit + name + (i % 3 == 0 ? "\r\n" : "\n");
+    }
+    Load(text);
+    const std::vector<std::string> passedOver = m_doc.m_passedOver;
+    m_doc.m_passedOver.clear();
+    CTreeStore inserted;
+    ASSERT_EQ(m_doc.InsertTemplate(File("all.tpl", text), inserted, TVI_ROOT, TVI_LAST, 0),
+              RESULT_DONE);
+    EXPECT_EQ(m_tree.GetCount(), inserted.GetCount());
+    EXPECT_EQ(m_doc.ToText(m_tree), m_doc.ToText(inserted));
+    EXPECT_EQ(passedOver, m_doc.m_passedOver);
+}
+
 }  // namespace
