@@ -85,6 +85,8 @@ protected:
     bool SaveFilesPrompt();
     void OpenWorkspace(std::unique_ptr<CWorkspace> workspace,
                        std::unique_ptr<CGameDatabase> database);
+    // A database loaded from targetFile that asks this window about unknown records.
+    std::unique_ptr<CGameDatabase> LoadDatabase(const std::string& targetFile);
     // Copies the file source into destination; RESULT_DONE, RESULT_CANNOT_OPEN (source) or
     // RESULT_CANNOT_WRITE (destination, left as it was).
     static int CopyFileText(const std::string& source, const std::string& destination);
@@ -102,8 +104,6 @@ private:
     // A fresh workspace at path, edited in "Workspace Properties"; none unless accepted.
     std::unique_ptr<CWorkspace> EditNewWorkspace(const std::string& path, bool load,
                                                  std::uint16_t mode, std::uint16_t oobOpenMode);
-    // A database loaded from targetFile that asks this window about unknown records.
-    std::unique_ptr<CGameDatabase> LoadDatabase(const std::string& targetFile);
     // Makes the three objects current, the old ones and the old tree gone.
     void Install(std::unique_ptr<CWorkspace> workspace, std::unique_ptr<CGameDatabase> database);
     void ShowWriteError();

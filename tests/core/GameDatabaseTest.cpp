@@ -158,15 +158,6 @@ TEST(GameDatabase, ReadsDamagedLinesAsDecided) {
     }
 }
 
-TEST(GameDatabase, FileEndingBeforeAnEndTagKeepsWhatWasRead) {
-    const std::string cut = "\t\tRifle|0.2|Rifled musket|\r\n";
-    const std::string text = Parse(kGolden.substr(0, kGolden.find(cut) + cut.size()))->ToText();
-    const std::size_t types = kGolden.find("\t1|Fusilier");
-    const std::size_t command = kGolden.find("\t4|Command");
-    EXPECT_EQ(text.substr(text.find("</C>\r\n") + 6),
-              kGolden.substr(types, command - types) + "</D>\r\n</E>\r\n\t|\r\n</F>");
-}
-
 TEST(GameDatabase, LoadAndSaveKeepThePath) {
     CTempFolder folder;
     auto db = Parse(kGolden);

@@ -138,20 +138,6 @@ TEST_F(OobDocument, ReadsOddLinesAsDecided) {
     }
 }
 
-// The file reader and the template reader alike: a line is cut at 254 characters, the rest of
-// it not spilling into the next line, and a last line without a line break is never read.
-TEST_F(OobDocument, LongAndUnendedLines) {
-    const std::string prefix = "U 10 3 Foot Musket 1 2 ";
-    const std::string text =
-        prefix + std::string(280, 'N') + "\r\n" + prefix + "Next\r\n" + kUnit + "Lost";
-    Load("3\r\n" + text);
-    const std::string shape = std::string(254 - prefix.size(), 'N') + " Next";
-    EXPECT_EQ(Shape(m_tree), shape);
-    CTreeStore inserted;
-    m_doc.InsertTemplate(File("long.tpl", text), inserted, TVI_ROOT, TVI_LAST, 0);
-    EXPECT_EQ(Shape(inserted), shape);
-}
-
 class Templates : public OobDocument {
 protected:
     void SetUp() override {
@@ -184,15 +170,6 @@ TEST_F(Templates, OrdinalChoosesTheBlock) {
 TEST_F(Templates, FurtherTopLevelItemsGoLast) {
     const std::string path = File("pair.tpl", kUnit + "one\r\n" + kUnit + "two\r\n");
     EXPECT_EQ(Insert(path, 0, Find("X")), "P(W X one Y two)");
-}
-
-TEST_F(Templates, MissingFileChangesNothing) {
-    EXPECT_EQ(m_doc.InsertTemplate(m_folder / "none.tpl", m_tree, m_hParent, TVI_LAST, 0),
-              RESULT_CANNOT_OPEN);
-    EXPECT_EQ(Shape(m_tree), "P(W X Y)");
-    CTreeStore empty;
-    EXPECT_EQ(m_doc.LoadTree(m_folder / "none.oob", m_tree), RESULT_CANNOT_OPEN);
-    EXPECT_EQ(Shape(m_tree), "P(W X Y)");
 }
 
 // An item at a level no container opened hangs under the caller's parent.

@@ -76,14 +76,4 @@ TEST_F(Workspace, LinesReadThroughTheTokenizer) {
     EXPECT_EQ(LoadOverFresh("North|South|\n").m_strTitle, "North");
 }
 
-// A file cut short keeps the fields of its missing lines; a missing file keeps them all.
-TEST_F(Workspace, ShortOrMissingFilesKeepTheFieldsTheyDoNotHold) {
-    EXPECT_EQ(Fields(LoadOverFresh("T|\nO|\nB|\nX|\n1|a|\n1|b|\n")),
-              "T|O|B|X|1:a|1:b|0:empty|0:empty|1:icons3d0.bmp|");
-    CWorkspace missing = m_fresh;
-    EXPECT_EQ(missing.Load(m_folder / "none.txt"), RESULT_CANNOT_OPEN);
-    EXPECT_EQ(Fields(missing), Fields(m_fresh));
-    EXPECT_EQ(missing.m_strPath, m_folder / "none.txt");
-}
-
 }  // namespace
