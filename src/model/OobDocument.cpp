@@ -57,6 +57,10 @@ void WalkLines(const CTreeStore& tree, HTREEITEM start, Emit emit) {
     }
 }
 
+// A line of a typical order of battle, indentation and line end included: the text is reserved
+// for it once rather than copied as it grows (a larger one still grows as usual).
+constexpr std::size_t kTypicalLine = 48;
+
 // Entries above entry, itself included: 0 for the root, 1 for a top-level entry.
 int DepthOf(const CTreeStore& tree, HTREEITEM entry) {
     int depth = 0;
@@ -108,6 +112,7 @@ int COobDocument::CopyToList(const CTreeStore& tree, HTREEITEM start, CLineStore
 
 std::string COobDocument::ToText(const CTreeStore& tree) {
     std::string out;
+    out.reserve(tree.GetCount() * kTypicalLine);
     AppendNumber(out, m_pDatabase ? m_pDatabase->m_nOobHeader : 0);
     out += kLineEnd;
     WriteSubtree(out, tree, nullptr);

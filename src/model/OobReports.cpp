@@ -1,5 +1,4 @@
 // The four reports of the order of battle: an HTML page and the cost, leader and key listings.
-#include <cstdio>
 #include <vector>
 
 #include "gamedata/GameRecords.h"
@@ -8,11 +7,17 @@
 #include "model/FileWriter.h"
 #include "model/HtmlText.h"
 #include "model/LeaderItem.h"
+#include "model/NumberText.h"
 #include "model/OobDocument.h"
 #include "model/TextLines.h"
 #include "model/TreeWalk.h"
 
 namespace {
+
+// What a typical entry takes in each report, line end included: the text is reserved for it once
+// rather than copied as it grows (a larger one still grows as usual).
+constexpr std::size_t kTypicalHtml = 128;
+constexpr std::size_t kTypicalListing = 72;
 
 std::string_view KindText(const COobItem* item) {
     return item && item->m_pKind ? std::string_view(item->m_pKind->m_strName) : std::string_view();
@@ -56,6 +61,7 @@ bool IsArmy(const COobItem* item) {
 
 std::string COobDocument::HtmlReport(const CTreeStore& tree, int flags) {
     std::string out;
+    out.reserve(tree.GetCount() * kTypicalHtml);
     AppendLine(out, "<HTML><HEAD><TITLE>Order of Battle</TITLE></HEAD>");
     AppendLine(out, "<BODY><TT><P ALIGN=center>HTML Report created by Harnwick</P>");
     AppendLine(out, "<DL>");
@@ -89,10 +95,10 @@ std::string COobDocument::HtmlReport(const CTreeStore& tree, int flags) {
 
 std::string COobDocument::CostReport(const CTreeStore& tree) {
     std::string out;
+    out.reserve(tree.GetCount() * kTypicalListing);
     AppendLine(out, "Cost Report created by Harnwick");
     const std::vector<CContainerTotals> totals = AllTotals(tree);
     std::size_t index = 0;
-    char number[400];  // room for any double in "%10.2f" form
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step(), ++index) {
         const COobItem* item = ItemOf(tree, walk.Current());
         if (IsArmy(item)) {
@@ -107,8 +113,9 @@ std::string COobDocument::CostReport(const CTreeStore& tree) {
         // A container's figure is its subtree's total cost, another item's its own cost:
         // what Aggregate gives for each.
         const double cost = !item ? 0.0 : IsContainer(*item) ? totals[index].cost : item->Cost();
-        std::snprintf(number, sizeof number, " %10.2f : ", cost);
-        out += number;
+        out += ' ';
+        AppendFixed(out, cost, 2, 10);
+        out += " : ";
         AppendPadded(out, KindText(item), 11);
         out += " : ";
         AppendIndentedName(out, walk.Depth(), item);
@@ -138,8 +145,18 @@ std::string COobDocument::LeaderReport(const CTreeStore& tree) {
         const auto* leader = static_cast<const CLeaderItem*>(item);
         const char command =
             CommandLetter(leader->m_pType ? std::string_view(leader->m_pType->m_strType) : "");
-        out += Format(" %-3d : (%-2d,%-2d) : %c  : %c  : ", n, n % 12 + 1, n / 12 + 1, command,
-                      GradeLetter(leader->m_nLeadership));
+        // " %-3d : (%-2d,%-2d) : %c  : %c  : "
+        out += ' ';
+        AppendLeftAligned(out, n, 3);
+        out += " : (";
+        AppendLeftAligned(out, n % 12 + 1, 2);
+        out += ',';
+        AppendLeftAligned(out, n / 12 + 1, 2);
+        out += ") : ";
+        out += command;
+        out += "  : ";
+        out += GradeLetter(leader->m_nLeadership);
+        out += "  : ";
         // A leader at the top level commands no echelon: its column stays blank.
         const HTREEITEM parent = tree.GetParentItem(walk.Current());
         AppendPadded(out, parent ? KindText(ItemOf(tree, parent)) : std::string_view(), 11);
@@ -152,6 +169,7 @@ std::string COobDocument::LeaderReport(const CTreeStore& tree) {
 
 std::string COobDocument::KeyReport(const CTreeStore& tree) {
     std::string out;
+    out.reserve(tree.GetCount() * kTypicalListing);
     AppendLine(out, "Key Report created by Harnwick");
     // One counter per depth; the table grows with the tree, so entries deeper than ten levels
     // (which only the editing commands can make) get keys too.
