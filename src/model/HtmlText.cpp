@@ -1,5 +1,7 @@
 #include "model/HtmlText.h"
 
+#include <cstdint>
+
 namespace {
 
 const char* Escape(char c) {
@@ -19,15 +21,23 @@ const char* Escape(char c) {
 
 void AppendEscaped(std::string& out, std::string_view text) {
     // Names seldom hold a character to escape: the text goes in whole runs between them.
-    std::size_t start = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (const char* escaped = Escape(text[i])) {
-            out.append(text.data() + start, i - start);
+    const char* run = text.data();
+    const char* const end = run + text.size();
+    for (const char* p = run; p != end; ++p) {
+        // One test per character: the escaped ones as bits of a mask of the first 64 codes.
+        constexpr std::uint64_t kEscapedCodes =
+            std::uint64_t{1} << '&' | std::uint64_t{1} << '<' | std::uint64_t{1} << '>';
+        const auto code = static_cast<unsigned char>(*p);
+        if (code >= 64 || !(kEscapedCodes >> code & 1)) {
+            continue;
+        }
+        if (const char* escaped = Escape(*p)) {
+            out.append(run, static_cast<std::size_t>(p - run));
             out += escaped;
-            start = i + 1;
+            run = p + 1;
         }
     }
-    out.append(text.data() + start, text.size() - start);
+    out.append(run, static_cast<std::size_t>(end - run));
 }
 
 char GradeLetter(int grade) {
