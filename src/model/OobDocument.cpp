@@ -11,6 +11,7 @@
 #include "model/ItemFactory.h"
 #include "model/ItemLineReader.h"
 #include "model/LeaderItem.h"
+#include "model/LineCut.h"
 #include "model/LineTokenizer.h"
 #include "model/Result.h"
 #include "model/TextLines.h"
@@ -85,12 +86,14 @@ COobDocument::COobDocument() {
 
 int COobDocument::WriteSubtree(std::string& out, const CTreeStore& tree, HTREEITEM start) {
     WalkLines(tree, start, [&out](int depth, const COobItem* item, std::string_view text) {
+        const std::size_t lineStart = out.size();
         out.append(static_cast<std::size_t>(depth < 0 ? 0 : depth), '\t');
         if (item) {
             item->ToText(out);
         } else {
             out.append(text);
         }
+        CutOverLongLine(out, lineStart);
         out.append(kLineEnd);
     });
     return RESULT_DONE;
@@ -105,6 +108,7 @@ int COobDocument::CopyToList(const CTreeStore& tree, HTREEITEM start, CLineStore
         } else {
             line = text;
         }
+        CutOverLongLine(line, 0);
         list.AddString(std::move(line));
     });
     return RESULT_DONE;

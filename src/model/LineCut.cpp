@@ -1,0 +1,58 @@
+#include "model/LineCut.h"
+
+#include "model/TextLines.h"
+
+// Why the writers cut. A written line exceeds what the readers take only with what was read from
+// a long line of a damaged file: written with more indentation than it stood with (an item read
+// at the top level and written eight tabs deep), or with a number that grew when it was stored
+// in its field's width (-1 in an 8-bit field is written 255). The readers would cut such a line
+// and drop the rest, so a file written whole would not read back as written, and writing what
+// was read again would not give the same bytes. Cut here, the line is what a reader sees, and
+// the text is a fixed point of reading and writing: read again, the cut line gives the same
+// fields up to the cut, and written again it runs past the limit once more and is cut at the
+// same place. The separators at the cut (blanks, tabs, '|') are dropped because the readers drop
+// them at a line's end: kept, the line would come back one character shorter.
+namespace {
+
+bool IsSeparator(char c) {
+    return c == ' ' || c == '\t' || c == '|';
+}
+
+}  // namespace
+
+void CutOverLongLine(std::string& out, std::size_t lineStart) {
+    if (out.size() - lineStart <= kMaxLineLength) {
+        return;
+    }
+    std::size_t end = lineStart + kMaxLineLength;
+    while (end > lineStart && IsSeparator(out[end - 1])) {
+        --end;
+    }
+    out.resize(end);
+}
+
+void CutOverLongLines(std::string& text) {
+    std::string cut;
+    std::size_t copied = 0;  // text before this is in cut already
+    std::size_t start = 0;
+    while (start < text.size()) {
+        std::size_t feed = text.find('\n', start);
+        const std::size_t next = feed == std::string::npos ? text.size() : feed + 1;
+        std::size_t end = feed == std::string::npos ? text.size() : feed;
+        if (end > start && text[end - 1] == '\r') {
+            --end;
+        }
+        if (end - start > kMaxLineLength) {
+            cut.append(text, copied, start - copied);
+            const std::size_t lineStart = cut.size();
+            cut.append(text, start, end - start);
+            CutOverLongLine(cut, lineStart);
+            copied = end;  // the line end, if any, follows
+        }
+        start = next;
+    }
+    if (copied > 0) {
+        cut.append(text, copied, std::string::npos);
+        text = std::move(cut);
+    }
+}
