@@ -54,7 +54,7 @@ std::string CWorkspace::ToText() {
     std::ostringstream out;
     WriteTo(out, 0);
     std::string text = std::move(out).str();
-    CutOverLongLines(text);
+    CutOverLongLines(text, '|');
     return text;
 }
 

@@ -153,7 +153,7 @@ std::string CGameDatabase::ToText() {
     std::ostringstream out;
     WriteTo(out, 0);
     std::string text = std::move(out).str();
-    CutOverLongLines(text);
+    CutOverLongLines(text, '|');
     return text;
 }
 

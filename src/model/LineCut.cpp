@@ -10,28 +10,29 @@
 // was read again would not give the same bytes. Cut here, the line is what a reader sees, and
 // the text is a fixed point of reading and writing: read again, the cut line gives the same
 // fields up to the cut, and written again it runs past the limit once more and is cut at the
-// same place. The separators at the cut (blanks, tabs, '|') are dropped because the readers drop
-// them at a line's end: kept, the line would come back one character shorter.
+// same place. The separators at the cut (tabs and the delimiter) are dropped because the readers
+// drop them at a line's end: kept, the line would come back shorter. Other blanks are kept: in
+// a '|' format they belong to the field, and the reader keeps them.
 namespace {
 
-bool IsSeparator(char c) {
-    return c == ' ' || c == '\t' || c == '|';
+bool IsSeparator(char c, char delimiter) {
+    return c == '\t' || c == delimiter;
 }
 
 }  // namespace
 
-void CutOverLongLine(std::string& out, std::size_t lineStart) {
+void CutOverLongLine(std::string& out, std::size_t lineStart, char delimiter) {
     if (out.size() - lineStart <= kMaxLineLength) {
         return;
     }
     std::size_t end = lineStart + kMaxLineLength;
-    while (end > lineStart && IsSeparator(out[end - 1])) {
+    while (end > lineStart && IsSeparator(out[end - 1], delimiter)) {
         --end;
     }
     out.resize(end);
 }
 
-void CutOverLongLines(std::string& text) {
+void CutOverLongLines(std::string& text, char delimiter) {
     std::string cut;
     std::size_t copied = 0;  // text before this is in cut already
     std::size_t start = 0;
@@ -46,7 +47,7 @@ void CutOverLongLines(std::string& text) {
             cut.append(text, copied, start - copied);
             const std::size_t lineStart = cut.size();
             cut.append(text, start, end - start);
-            CutOverLongLine(cut, lineStart);
+            CutOverLongLine(cut, lineStart, delimiter);
             copied = end;  // the line end, if any, follows
         }
         start = next;

@@ -93,7 +93,7 @@ int COobDocument::WriteSubtree(std::string& out, const CTreeStore& tree, HTREEIT
         } else {
             out.append(text);
         }
-        CutOverLongLine(out, lineStart);
+        CutOverLongLine(out, lineStart, ' ');
         out.append(kLineEnd);
     });
     return RESULT_DONE;
@@ -108,7 +108,7 @@ int COobDocument::CopyToList(const CTreeStore& tree, HTREEITEM start, CLineStore
         } else {
             line = text;
         }
-        CutOverLongLine(line, 0);
+        CutOverLongLine(line, 0, ' ');
         list.AddString(std::move(line));
     });
     return RESULT_DONE;

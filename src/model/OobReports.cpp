@@ -171,9 +171,11 @@ std::string COobDocument::KeyReport(const CTreeStore& tree) {
     std::string out;
     out.reserve(tree.GetCount() * kTypicalListing);
     AppendLine(out, "Key Report created by Harnwick");
-    // One counter per depth; the table grows with the tree, so entries deeper than ten levels
-    // (which only the editing commands can make) get keys too.
+    // One counter per depth, and the length of the key up to each depth: an entry's key is its
+    // parent's with its own counter added. The tables grow with the tree, so entries deeper than
+    // ten levels (which only the editing commands can make) get keys too.
     std::vector<int> counters;
+    std::vector<std::size_t> keyLengths;
     std::string key;
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
         const COobItem* item = ItemOf(tree, walk.Current());
@@ -185,12 +187,12 @@ std::string COobDocument::KeyReport(const CTreeStore& tree) {
         }
         const std::size_t depth = static_cast<std::size_t>(walk.Depth());
         counters.resize(depth + 1, 0);
+        keyLengths.resize(depth + 1, 0);
         ++counters[depth];
-        key.clear();
-        for (int counter : counters) {
-            AppendNumber(key, counter);
-            key += '.';
-        }
+        key.resize(depth == 0 ? 0 : keyLengths[depth - 1]);
+        AppendNumber(key, counters[depth]);
+        key += '.';
+        keyLengths[depth] = key.size();
         AppendPadded(out, key, 15);
         out += " : ";
         AppendPadded(out, KindText(item), 11);
