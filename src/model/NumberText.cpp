@@ -31,17 +31,16 @@ bool CertainScaled(double magnitude, int decimals, unsigned long long& scaled) {
     return true;
 }
 
-// Appends scaled / 10^decimals with its decimals digits after the point; trailing zeros of the
-// fraction (and then the point) dropped when trim is set.
-void AppendScaled(std::string& out, bool negative, unsigned long long scaled, int decimals,
-                  bool trim) {
-    char buffer[32];
+// Writes scaled / 10^decimals with its decimals digits after the point to buffer (32 characters
+// are enough) and returns the end; trailing zeros of the fraction (and then the point) dropped
+// when trim is set.
+char* WriteScaled(char* buffer, bool negative, unsigned long long scaled, int decimals, bool trim) {
     char* end = buffer;
     if (negative) {
         *end++ = '-';
     }
     const unsigned long long unit = kWholePowersOfTen[decimals];
-    end = std::to_chars(end, buffer + sizeof buffer, scaled / unit).ptr;
+    end = std::to_chars(end, buffer + 32, scaled / unit).ptr;
     unsigned long long fraction = scaled % unit;
     int digits = decimals;
     if (trim) {
@@ -58,7 +57,16 @@ void AppendScaled(std::string& out, bool negative, unsigned long long scaled, in
         }
         end += digits;
     }
-    out.append(buffer, end);
+    return end;
+}
+
+// Appends the text from buffer to end, after blanks up to width.
+void AppendRightAligned(std::string& out, const char* buffer, const char* end, std::size_t width) {
+    const auto length = static_cast<std::size_t>(end - buffer);
+    if (length < width) {
+        out.append(width - length, ' ');
+    }
+    out.append(buffer, length);
 }
 
 // The exact path. std::to_chars with a format and a precision is defined to give what printf
@@ -66,12 +74,8 @@ void AppendScaled(std::string& out, bool negative, unsigned long long scaled, in
 void AppendExact(std::string& out, double value, std::chars_format format, int precision,
                  std::size_t width) {
     char buffer[kRoom];
-    char* end = std::to_chars(buffer, buffer + sizeof buffer, value, format, precision).ptr;
-    const auto length = static_cast<std::size_t>(end - buffer);
-    if (length < width) {
-        out.append(width - length, ' ');
-    }
-    out.append(buffer, end);
+    const char* end = std::to_chars(buffer, buffer + sizeof buffer, value, format, precision).ptr;
+    AppendRightAligned(out, buffer, end, width);
 }
 
 }  // namespace
@@ -88,7 +92,9 @@ void AppendGeneral(std::string& out, double value) {
         unsigned long long scaled = 0;
         // A rounding up to 10^6 significant units would change the exponent: the exact path.
         if (CertainScaled(magnitude, 5 - exponent, scaled) && scaled < 1000000) {
-            AppendScaled(out, std::signbit(value), scaled, 5 - exponent, true);
+            char buffer[32];
+            out.append(buffer,
+                       WriteScaled(buffer, std::signbit(value), scaled, 5 - exponent, true));
             return;
         }
     }
@@ -99,12 +105,9 @@ void AppendFixed(std::string& out, double value, int precision, std::size_t widt
     unsigned long long scaled = 0;
     if (precision >= 0 && precision <= 6 && std::isfinite(value) &&
         CertainScaled(std::fabs(value), precision, scaled)) {
-        const std::size_t start = out.size();
-        AppendScaled(out, std::signbit(value), scaled, precision, false);
-        const std::size_t length = out.size() - start;
-        if (length < width) {
-            out.insert(start, width - length, ' ');
-        }
+        char buffer[32];
+        const char* end = WriteScaled(buffer, std::signbit(value), scaled, precision, false);
+        AppendRightAligned(out, buffer, end, width);
         return;
     }
     AppendExact(out, value, std::chars_format::fixed, precision, width);
@@ -112,9 +115,9 @@ void AppendFixed(std::string& out, double value, int precision, std::size_t widt
 
 void AppendLeftAligned(std::string& out, long long value, std::size_t width) {
     char buffer[24];
-    char* end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
-    out.append(buffer, end);
+    const char* end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
     const auto length = static_cast<std::size_t>(end - buffer);
+    out.append(buffer, length);
     if (length < width) {
         out.append(width - length, ' ');
     }
