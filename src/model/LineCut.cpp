@@ -1,7 +1,4 @@
 #include "model/LineCut.h"
-
-#include "model/TextLines.h"
-
 // Why the writers cut. A written line exceeds what the readers take only with what was read from
 // a long line of a damaged file: written with more indentation than it stood with (an item read
 // at the top level and written eight tabs deep), or with a number that grew when it was stored
@@ -21,10 +18,7 @@ bool IsSeparator(char c, char delimiter) {
 
 }  // namespace
 
-void CutOverLongLine(std::string& out, std::size_t lineStart, char delimiter) {
-    if (out.size() - lineStart <= kMaxLineLength) {
-        return;
-    }
+void CutLine(std::string& out, std::size_t lineStart, char delimiter) {
     std::size_t end = lineStart + kMaxLineLength;
     while (end > lineStart && IsSeparator(out[end - 1], delimiter)) {
         --end;
