@@ -114,17 +114,23 @@ int COobDocument::CopyToList(const CTreeStore& tree, HTREEITEM start, CLineStore
     return RESULT_DONE;
 }
 
-std::string COobDocument::ToText(const CTreeStore& tree) {
-    std::string out;
-    out.reserve(tree.GetCount() * kTypicalLine);
+void COobDocument::AppendText(std::string& out, const CTreeStore& tree) {
+    out.reserve(out.size() + tree.GetCount() * kTypicalLine);
     AppendNumber(out, m_pDatabase ? m_pDatabase->m_nOobHeader : 0);
     out += kLineEnd;
     WriteSubtree(out, tree, nullptr);
+}
+
+std::string COobDocument::ToText(const CTreeStore& tree) {
+    std::string out;
+    AppendText(out, tree);
     return out;
 }
 
 int COobDocument::Save(const std::string& path, const CTreeStore& tree) {
-    const int result = ReplaceFile(path, ToText(tree));
+    m_strWritten.clear();
+    AppendText(m_strWritten, tree);
+    const int result = ReplaceFile(path, m_strWritten);
     if (result == RESULT_DONE) {
         m_strName = path;
     }

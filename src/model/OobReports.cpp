@@ -59,9 +59,10 @@ bool IsArmy(const COobItem* item) {
 
 }  // namespace
 
-std::string COobDocument::HtmlReport(const CTreeStore& tree, int flags) {
-    std::string out;
-    out.reserve(tree.GetCount() * kTypicalHtml);
+namespace {
+
+void AppendHtmlReport(std::string& out, const CTreeStore& tree, int flags) {
+    out.reserve(out.size() + tree.GetCount() * kTypicalHtml);
     AppendLine(out, "<HTML><HEAD><TITLE>Order of Battle</TITLE></HEAD>");
     AppendLine(out, "<BODY><TT><P ALIGN=center>HTML Report created by Harnwick</P>");
     AppendLine(out, "<DL>");
@@ -90,12 +91,10 @@ std::string COobDocument::HtmlReport(const CTreeStore& tree, int flags) {
         }
     }
     AppendLine(out, "</DL></TT></BODY></HTML>");
-    return out;
 }
 
-std::string COobDocument::CostReport(const CTreeStore& tree) {
-    std::string out;
-    out.reserve(tree.GetCount() * kTypicalListing);
+void AppendCostReport(std::string& out, const CTreeStore& tree) {
+    out.reserve(out.size() + tree.GetCount() * kTypicalListing);
     AppendLine(out, "Cost Report created by Harnwick");
     const std::vector<CContainerTotals> totals = AllTotals(tree);
     std::size_t index = 0;
@@ -120,11 +119,9 @@ std::string COobDocument::CostReport(const CTreeStore& tree) {
         out += " : ";
         AppendIndentedName(out, walk.Depth(), item);
     }
-    return out;
 }
 
-std::string COobDocument::LeaderReport(const CTreeStore& tree) {
-    std::string out;
+void AppendLeaderReport(std::string& out, const CTreeStore& tree) {
     AppendLine(out, "Leader Report created by Harnwick");
     int n = 0;
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
@@ -164,12 +161,10 @@ std::string COobDocument::LeaderReport(const CTreeStore& tree) {
         AppendIndentedName(out, walk.Depth(), item);
         ++n;
     }
-    return out;
 }
 
-std::string COobDocument::KeyReport(const CTreeStore& tree) {
-    std::string out;
-    out.reserve(tree.GetCount() * kTypicalListing);
+void AppendKeyReport(std::string& out, const CTreeStore& tree) {
+    out.reserve(out.size() + tree.GetCount() * kTypicalListing);
     AppendLine(out, "Key Report created by Harnwick");
     // One counter per depth, and the length of the key up to each depth: an entry's key is its
     // parent's with its own counter added. The tables grow with the tree, so entries deeper than
@@ -199,21 +194,54 @@ std::string COobDocument::KeyReport(const CTreeStore& tree) {
         out += " : ";
         AppendIndentedName(out, walk.Depth(), item);
     }
+}
+
+}  // namespace
+
+std::string COobDocument::HtmlReport(const CTreeStore& tree, int flags) {
+    std::string out;
+    AppendHtmlReport(out, tree, flags);
+    return out;
+}
+
+std::string COobDocument::CostReport(const CTreeStore& tree) {
+    std::string out;
+    AppendCostReport(out, tree);
+    return out;
+}
+
+std::string COobDocument::LeaderReport(const CTreeStore& tree) {
+    std::string out;
+    AppendLeaderReport(out, tree);
+    return out;
+}
+
+std::string COobDocument::KeyReport(const CTreeStore& tree) {
+    std::string out;
+    AppendKeyReport(out, tree);
     return out;
 }
 
 int COobDocument::WriteHtmlReport(const std::string& path, const CTreeStore& tree, int flags) {
-    return ReplaceFile(path, HtmlReport(tree, flags));
+    m_strWritten.clear();
+    AppendHtmlReport(m_strWritten, tree, flags);
+    return ReplaceFile(path, m_strWritten);
 }
 
 int COobDocument::WriteCostReport(const std::string& path, const CTreeStore& tree) {
-    return ReplaceFile(path, CostReport(tree));
+    m_strWritten.clear();
+    AppendCostReport(m_strWritten, tree);
+    return ReplaceFile(path, m_strWritten);
 }
 
 int COobDocument::WriteLeaderReport(const std::string& path, const CTreeStore& tree) {
-    return ReplaceFile(path, LeaderReport(tree));
+    m_strWritten.clear();
+    AppendLeaderReport(m_strWritten, tree);
+    return ReplaceFile(path, m_strWritten);
 }
 
 int COobDocument::WriteKeyReport(const std::string& path, const CTreeStore& tree) {
-    return ReplaceFile(path, KeyReport(tree));
+    m_strWritten.clear();
+    AppendKeyReport(m_strWritten, tree);
+    return ReplaceFile(path, m_strWritten);
 }
