@@ -17,6 +17,7 @@
 #include "model/OobItem.h"
 #include "model/Result.h"
 #include "model/TextLines.h"
+#include "model/TreeWalk.h"
 
 namespace {
 
@@ -101,21 +102,6 @@ void Require(bool condition, const char* what) {
         std::fprintf(stderr, "fuzz check failed: %s\n", what);
         std::abort();
     }
-}
-
-bool HasOverLongLine(std::string_view text) {
-    for (std::size_t start = 0; start < text.size();) {
-        const std::size_t feed = std::min(text.find('\n', start), text.size());
-        std::string_view line = text.substr(start, feed - start);
-        if (!line.empty() && line.back() == '\r') {
-            line.remove_suffix(1);
-        }
-        if (line.size() > kMaxLineLength) {
-            return true;
-        }
-        start = feed + 1;
-    }
-    return false;
 }
 
 std::string WriteScratchFile(const char* name, std::string_view bytes) {
@@ -213,10 +199,19 @@ bool HasChildrenOutsideContainers(const CTreeStore& tree) {
     return ChildrenOutsideContainers(tree, tree.HiddenRoot());
 }
 
-std::unique_ptr<COobSession> RequireOobFixedPoint(const std::string& text) {
-    if (HasOverLongLine(text)) {
-        return nullptr;
+bool HasCutLine(const CTreeStore& tree) {
+    std::string line;
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        line.assign(static_cast<std::size_t>(walk.Depth()), '\t');
+        ItemOf(tree, walk.Current())->ToText(line);
+        if (line.size() > kMaxLineLength) {
+            return true;
+        }
     }
+    return false;
+}
+
+std::unique_ptr<COobSession> RequireOobFixedPoint(const std::string& text) {
     auto again = std::make_unique<COobSession>();
     Require(
         again->document.LoadTree(WriteScratchFile("written.oob", text), again->tree) == RESULT_DONE,

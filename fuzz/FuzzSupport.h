@@ -53,15 +53,13 @@ std::string TreeOutline(const CTreeStore& tree);
 // the same from its own text.
 bool HasChildrenOutsideContainers(const CTreeStore& tree);
 
-// True when a line of text, without its line end, is longer than the readers take. Lines of
-// every format hold at most 254 characters, and the readers cut longer ones. A writer exceeds
-// that only with what it read from a long line of a damaged file: written with more indentation
-// than it stood with, or with a number that grew when it was cut to its field's width (-1 in an
-// 8-bit field is written 255). Such a line comes back cut, so the round-trip checks leave out
-// the texts that hold one.
-bool HasOverLongLine(std::string_view text);
+// True when the writer cuts the line of an entry of tree: its indentation and its item's text are
+// longer than the readers take. That happens only with what was read from a long line of a
+// damaged file (an item read at the top level and written deeper); the text still reads back as
+// written, but not as the same tree.
+bool HasCutLine(const CTreeStore& tree);
 
 // The order-of-battle reader's fixed point: text is what the writer made of some tree. Reading
 // it again (on fresh game data) and writing must give the same bytes. Returns the second
-// session, for callers that compare its tree; none when the text has an over-long line.
+// session, for callers that compare its tree.
 std::unique_ptr<COobSession> RequireOobFixedPoint(const std::string& text);

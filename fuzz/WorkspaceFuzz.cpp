@@ -1,5 +1,5 @@
 // The workspace reader on any file, and its writer: what the writer makes of a workspace reads
-// back as the same workspace and is written again byte for byte.
+// back as the same workspace (less what a cut line lost) and is written again byte for byte.
 #include <cstddef>
 #include <cstdint>
 #include <sstream>
@@ -10,10 +10,21 @@
 
 namespace {
 
-bool SameFields(const CWorkspace& a, const CWorkspace& b) {
-    return a.m_strTitle == b.m_strTitle && a.m_strOobFile == b.m_strOobFile &&
-           a.m_strBackupFile == b.m_strBackupFile && a.m_strTargetFile == b.m_strTargetFile &&
-           a.m_nPictureFlags == b.m_nPictureFlags && a.m_strPicturePaths == b.m_strPicturePaths;
+bool StartsWith(const std::string& text, const std::string& start) {
+    return text.compare(0, start.size(), start) == 0;
+}
+
+// b is a read back from what was written of a: the same numbers, the same texts or, where the
+// writer cut a line that grew past what the readers take (a flag of -1 written 255), their start.
+bool KeptFields(const CWorkspace& a, const CWorkspace& b) {
+    bool kept = a.m_nPictureFlags == b.m_nPictureFlags && StartsWith(a.m_strTitle, b.m_strTitle) &&
+                StartsWith(a.m_strOobFile, b.m_strOobFile) &&
+                StartsWith(a.m_strBackupFile, b.m_strBackupFile) &&
+                StartsWith(a.m_strTargetFile, b.m_strTargetFile);
+    for (std::size_t i = 0; i < a.m_strPicturePaths.size(); ++i) {
+        kept = kept && StartsWith(a.m_strPicturePaths[i], b.m_strPicturePaths[i]);
+    }
+    return kept;
 }
 
 }  // namespace
@@ -23,13 +34,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CWorkspace first;
     first.ReadFrom(input);
     const std::string written = first.ToText();
-    if (HasOverLongLine(written)) {
-        return 0;
-    }
     std::istringstream again(written);
     CWorkspace second;
     second.ReadFrom(again);
-    Require(SameFields(first, second), "a written workspace reads back differently");
+    Require(KeptFields(first, second), "a written workspace reads back differently");
     Require(second.ToText() == written, "a written workspace is written differently");
     return 0;
 }

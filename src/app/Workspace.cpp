@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "model/FileWriter.h"
+#include "model/LineCut.h"
 #include "model/LineTokenizer.h"
 #include "model/Result.h"
 #include "model/TextLines.h"
@@ -52,7 +53,9 @@ void CWorkspace::ReadFrom(std::istream& in) {
 std::string CWorkspace::ToText() {
     std::ostringstream out;
     WriteTo(out, 0);
-    return std::move(out).str();
+    std::string text = std::move(out).str();
+    CutOverLongLines(text, '|');
+    return text;
 }
 
 int CWorkspace::Save(const std::string& path) {

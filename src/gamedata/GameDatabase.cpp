@@ -5,6 +5,7 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/FileWriter.h"
+#include "model/LineCut.h"
 #include "model/LineTokenizer.h"
 #include "model/Result.h"
 #include "model/TextLines.h"
@@ -156,7 +157,9 @@ void CGameDatabase::WriteTo(std::ostream& out, std::uint8_t) {
 std::string CGameDatabase::ToText() {
     std::ostringstream out;
     WriteTo(out, 0);
-    return std::move(out).str();
+    std::string text = std::move(out).str();
+    CutOverLongLines(text, '|');
+    return text;
 }
 
 int CGameDatabase::Save(const std::string& path) {

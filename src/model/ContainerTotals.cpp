@@ -2,6 +2,7 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/HtmlText.h"
+#include "model/NumberText.h"
 #include "model/OobItem.h"
 #include "model/TextLines.h"
 #include "model/TreeWalk.h"
@@ -80,7 +81,7 @@ void AppendContainerHtml(std::string& out, const std::string& name, const CConta
         first = false;
         out += label;
         out += " <B>";
-        out += Format("%g", value);
+        AppendGeneral(out, value);
         out += "</B>";
     };
     if (totals.infantry != 0.0) {

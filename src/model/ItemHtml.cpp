@@ -7,6 +7,7 @@
 #include "model/GunboatItem.h"
 #include "model/HtmlText.h"
 #include "model/LeaderItem.h"
+#include "model/NumberText.h"
 #include "model/SupplyItem.h"
 #include "model/TextLines.h"
 #include "model/UnitItem.h"
@@ -20,7 +21,7 @@ std::string_view KindText(const COobItem& item) {
 void AppendCost(std::string& out, const COobItem& item, int flags) {
     if (flags & HTML_COSTS) {
         out += ", Cost <B>";
-        out += Format("%g", item.Cost());
+        AppendGeneral(out, item.Cost());
         out += "</B>";
     }
 }

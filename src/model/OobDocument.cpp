@@ -14,6 +14,7 @@
 #include "model/ItemFactory.h"
 #include "model/ItemLineReader.h"
 #include "model/LeaderItem.h"
+#include "model/LineCut.h"
 #include "model/LineTokenizer.h"
 #include "model/Result.h"
 #include "model/TextLines.h"
@@ -60,6 +61,10 @@ void WalkLines(const CTreeStore& tree, HTREEITEM start, Emit emit) {
     }
 }
 
+// A line of a typical order of battle, indentation and line end included: the text is reserved
+// for it once rather than copied as it grows (a larger one still grows as usual).
+constexpr std::size_t kTypicalLine = 48;
+
 // Entries above entry, itself included: 0 for the root, 1 for a top-level entry.
 int DepthOf(const CTreeStore& tree, HTREEITEM entry) {
     int depth = 0;
@@ -84,12 +89,14 @@ COobDocument::COobDocument() {
 
 int COobDocument::WriteSubtree(std::string& out, const CTreeStore& tree, HTREEITEM start) {
     WalkLines(tree, start, [&out](int depth, const COobItem* item, std::string_view text) {
+        const std::size_t lineStart = out.size();
         out.append(static_cast<std::size_t>(depth < 0 ? 0 : depth), '\t');
         if (item) {
             item->ToText(out);
         } else {
             out.append(text);
         }
+        CutOverLongLine(out, lineStart, ' ');
         out.append(kLineEnd);
     });
     return RESULT_DONE;
@@ -104,21 +111,29 @@ int COobDocument::CopyToList(const CTreeStore& tree, HTREEITEM start, CLineStore
         } else {
             line = text;
         }
+        CutOverLongLine(line, 0, ' ');
         list.AddString(std::move(line));
     });
     return RESULT_DONE;
 }
 
-std::string COobDocument::ToText(const CTreeStore& tree) {
-    std::string out;
+void COobDocument::AppendText(std::string& out, const CTreeStore& tree) {
+    out.reserve(out.size() + tree.GetCount() * kTypicalLine);
     AppendNumber(out, m_pDatabase ? m_pDatabase->m_nOobHeader : 0);
     out += kLineEnd;
     WriteSubtree(out, tree, nullptr);
+}
+
+std::string COobDocument::ToText(const CTreeStore& tree) {
+    std::string out;
+    AppendText(out, tree);
     return out;
 }
 
 int COobDocument::Save(const std::string& path, const CTreeStore& tree) {
-    const int result = ReplaceFile(path, ToText(tree));
+    m_strWritten.clear();
+    AppendText(m_strWritten, tree);
+    const int result = ReplaceFile(path, m_strWritten);
     if (result == RESULT_DONE) {
         m_strName = path;
     }

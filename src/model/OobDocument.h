@@ -98,6 +98,14 @@ public:
     CGameDatabase* m_pDatabase = nullptr;
 
 private:
+    // Appends the header number and the whole tree's lines.
+    void AppendText(std::string& out, const CTreeStore& tree);
+
+    // The bytes of the last file written (saved or reported), kept for the next one: a large
+    // order of battle is saved again and again, and building the text in memory already in use
+    // saves faulting in fresh pages for every byte, which takes as long as writing the file.
+    std::string m_strWritten;
+
     // One line as read from a file, without its line break.
     std::int16_t ReadRawLine(std::string_view raw, CTreeStore& tree, COobReaderState& state,
                              bool templateEnds);

@@ -1,5 +1,4 @@
 // The four reports of the order of battle: an HTML page and the cost, leader and key listings.
-#include <cstdio>
 #include <vector>
 
 #include "gamedata/GameRecords.h"
@@ -8,11 +7,17 @@
 #include "model/FileWriter.h"
 #include "model/HtmlText.h"
 #include "model/LeaderItem.h"
+#include "model/NumberText.h"
 #include "model/OobDocument.h"
 #include "model/TextLines.h"
 #include "model/TreeWalk.h"
 
 namespace {
+
+// What a typical entry takes in each report, line end included: the text is reserved for it once
+// rather than copied as it grows (a larger one still grows as usual).
+constexpr std::size_t kTypicalHtml = 128;
+constexpr std::size_t kTypicalListing = 72;
 
 std::string_view KindText(const COobItem* item) {
     return item && item->m_pKind ? std::string_view(item->m_pKind->m_strName) : std::string_view();
@@ -54,8 +59,10 @@ bool IsArmy(const COobItem* item) {
 
 }  // namespace
 
-std::string COobDocument::HtmlReport(const CTreeStore& tree, int flags) {
-    std::string out;
+namespace {
+
+void AppendHtmlReport(std::string& out, const CTreeStore& tree, int flags) {
+    out.reserve(out.size() + tree.GetCount() * kTypicalHtml);
     AppendLine(out, "<HTML><HEAD><TITLE>Order of Battle</TITLE></HEAD>");
     AppendLine(out, "<BODY><TT><P ALIGN=center>HTML Report created by Harnwick</P>");
     AppendLine(out, "<DL>");
@@ -84,15 +91,13 @@ std::string COobDocument::HtmlReport(const CTreeStore& tree, int flags) {
         }
     }
     AppendLine(out, "</DL></TT></BODY></HTML>");
-    return out;
 }
 
-std::string COobDocument::CostReport(const CTreeStore& tree) {
-    std::string out;
+void AppendCostReport(std::string& out, const CTreeStore& tree) {
+    out.reserve(out.size() + tree.GetCount() * kTypicalListing);
     AppendLine(out, "Cost Report created by Harnwick");
     const std::vector<CContainerTotals> totals = AllTotals(tree);
     std::size_t index = 0;
-    char number[400];  // room for any double in "%10.2f" form
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step(), ++index) {
         const COobItem* item = ItemOf(tree, walk.Current());
         if (IsArmy(item)) {
@@ -107,17 +112,16 @@ std::string COobDocument::CostReport(const CTreeStore& tree) {
         // A container's figure is its subtree's total cost, another item's its own cost:
         // what Aggregate gives for each.
         const double cost = !item ? 0.0 : IsContainer(*item) ? totals[index].cost : item->Cost();
-        std::snprintf(number, sizeof number, " %10.2f : ", cost);
-        out += number;
+        out += ' ';
+        AppendFixed(out, cost, 2, 10);
+        out += " : ";
         AppendPadded(out, KindText(item), 11);
         out += " : ";
         AppendIndentedName(out, walk.Depth(), item);
     }
-    return out;
 }
 
-std::string COobDocument::LeaderReport(const CTreeStore& tree) {
-    std::string out;
+void AppendLeaderReport(std::string& out, const CTreeStore& tree) {
     AppendLine(out, "Leader Report created by Harnwick");
     int n = 0;
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
@@ -138,8 +142,18 @@ std::string COobDocument::LeaderReport(const CTreeStore& tree) {
         const auto* leader = static_cast<const CLeaderItem*>(item);
         const char command =
             CommandLetter(leader->m_pType ? std::string_view(leader->m_pType->m_strType) : "");
-        out += Format(" %-3d : (%-2d,%-2d) : %c  : %c  : ", n, n % 12 + 1, n / 12 + 1, command,
-                      GradeLetter(leader->m_nLeadership));
+        // " %-3d : (%-2d,%-2d) : %c  : %c  : "
+        out += ' ';
+        AppendLeftAligned(out, n, 3);
+        out += " : (";
+        AppendLeftAligned(out, n % 12 + 1, 2);
+        out += ',';
+        AppendLeftAligned(out, n / 12 + 1, 2);
+        out += ") : ";
+        out += command;
+        out += "  : ";
+        out += GradeLetter(leader->m_nLeadership);
+        out += "  : ";
         // A leader at the top level commands no echelon: its column stays blank.
         const HTREEITEM parent = tree.GetParentItem(walk.Current());
         AppendPadded(out, parent ? KindText(ItemOf(tree, parent)) : std::string_view(), 11);
@@ -147,15 +161,16 @@ std::string COobDocument::LeaderReport(const CTreeStore& tree) {
         AppendIndentedName(out, walk.Depth(), item);
         ++n;
     }
-    return out;
 }
 
-std::string COobDocument::KeyReport(const CTreeStore& tree) {
-    std::string out;
+void AppendKeyReport(std::string& out, const CTreeStore& tree) {
+    out.reserve(out.size() + tree.GetCount() * kTypicalListing);
     AppendLine(out, "Key Report created by Harnwick");
-    // One counter per depth; the table grows with the tree, so entries deeper than ten levels
-    // (which only the editing commands can make) get keys too.
+    // One counter per depth, and the length of the key up to each depth: an entry's key is its
+    // parent's with its own counter added. The tables grow with the tree, so entries deeper than
+    // ten levels (which only the editing commands can make) get keys too.
     std::vector<int> counters;
+    std::vector<std::size_t> keyLengths;
     std::string key;
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
         const COobItem* item = ItemOf(tree, walk.Current());
@@ -167,33 +182,66 @@ std::string COobDocument::KeyReport(const CTreeStore& tree) {
         }
         const std::size_t depth = static_cast<std::size_t>(walk.Depth());
         counters.resize(depth + 1, 0);
+        keyLengths.resize(depth + 1, 0);
         ++counters[depth];
-        key.clear();
-        for (int counter : counters) {
-            AppendNumber(key, counter);
-            key += '.';
-        }
+        key.resize(depth == 0 ? 0 : keyLengths[depth - 1]);
+        AppendNumber(key, counters[depth]);
+        key += '.';
+        keyLengths[depth] = key.size();
         AppendPadded(out, key, 15);
         out += " : ";
         AppendPadded(out, KindText(item), 11);
         out += " : ";
         AppendIndentedName(out, walk.Depth(), item);
     }
+}
+
+}  // namespace
+
+std::string COobDocument::HtmlReport(const CTreeStore& tree, int flags) {
+    std::string out;
+    AppendHtmlReport(out, tree, flags);
+    return out;
+}
+
+std::string COobDocument::CostReport(const CTreeStore& tree) {
+    std::string out;
+    AppendCostReport(out, tree);
+    return out;
+}
+
+std::string COobDocument::LeaderReport(const CTreeStore& tree) {
+    std::string out;
+    AppendLeaderReport(out, tree);
+    return out;
+}
+
+std::string COobDocument::KeyReport(const CTreeStore& tree) {
+    std::string out;
+    AppendKeyReport(out, tree);
     return out;
 }
 
 int COobDocument::WriteHtmlReport(const std::string& path, const CTreeStore& tree, int flags) {
-    return ReplaceFile(path, HtmlReport(tree, flags));
+    m_strWritten.clear();
+    AppendHtmlReport(m_strWritten, tree, flags);
+    return ReplaceFile(path, m_strWritten);
 }
 
 int COobDocument::WriteCostReport(const std::string& path, const CTreeStore& tree) {
-    return ReplaceFile(path, CostReport(tree));
+    m_strWritten.clear();
+    AppendCostReport(m_strWritten, tree);
+    return ReplaceFile(path, m_strWritten);
 }
 
 int COobDocument::WriteLeaderReport(const std::string& path, const CTreeStore& tree) {
-    return ReplaceFile(path, LeaderReport(tree));
+    m_strWritten.clear();
+    AppendLeaderReport(m_strWritten, tree);
+    return ReplaceFile(path, m_strWritten);
 }
 
 int COobDocument::WriteKeyReport(const std::string& path, const CTreeStore& tree) {
-    return ReplaceFile(path, KeyReport(tree));
+    m_strWritten.clear();
+    AppendKeyReport(m_strWritten, tree);
+    return ReplaceFile(path, m_strWritten);
 }

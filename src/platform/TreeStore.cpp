@@ -174,17 +174,28 @@ bool CTreeStore::IsInSubtree(HTREEITEM entry, HTREEITEM ancestor) const {
 
 // Destroys the children of entry bottom-up without recursion, so a deep tree cannot exhaust the
 // stack. Returns how many entries were destroyed.
+// The entries go in the reverse of the order a reader makes them (pre-order), and the pool hands
+// freed blocks out last in, first out: the next tree read gets them back in its own order and
+// lies in memory as the writers walk it. Destroyed in another order, a tree read after one was
+// closed is scattered, and every walk over a large one waits on memory at each entry.
 std::size_t CTreeStore::DestroyChildren(CTreeEntry& entry) {
-    std::size_t destroyed = 0;
-    std::vector<std::unique_ptr<CTreeEntry>> pending = std::move(entry.m_children);
+    std::vector<std::unique_ptr<CTreeEntry>> pending(
+        std::make_move_iterator(entry.m_children.rbegin()),
+        std::make_move_iterator(entry.m_children.rend()));
     entry.m_children.clear();
+    std::vector<std::unique_ptr<CTreeEntry>> preOrder;
     while (!pending.empty()) {
         std::unique_ptr<CTreeEntry> e = std::move(pending.back());
         pending.pop_back();
-        for (auto& child : e->m_children) {
-            pending.push_back(std::move(child));
+        for (auto child = e->m_children.rbegin(); child != e->m_children.rend(); ++child) {
+            pending.push_back(std::move(*child));
         }
-        ++destroyed;
+        e->m_children.clear();
+        preOrder.push_back(std::move(e));
+    }
+    const std::size_t destroyed = preOrder.size();
+    while (!preOrder.empty()) {
+        preOrder.pop_back();
     }
     return destroyed;
 }

@@ -145,9 +145,10 @@ TEST(GameDatabase, ReadsDamagedLinesAsDecided) {
         // Numbers keep the low bits of their field, truncated toward zero.
         {"\t7|9|Army |", "\t300|-70000|Army |", "\t44|144|Army |Army|\r\n"},
         {"\t2|3|0.5|3.5|50|", "\t2|-3.9|0.5|3.5|70000|", "\t2|-3|0.5|3.5|4464|20|Horse|\r\n"},
-        // A line is cut at 254 characters and the rest of it dropped.
+        // A line is cut at 254 characters and the rest of it dropped; written back, it is cut
+        // there again, so the field end after the name is left off.
         {"\t0|1|U |Unit|", "\t0|1|U |" + x300 + "|",
-         "\t0|1|U |" + x300.substr(0, 254 - 8) + "|\r\n\t4|2|L |Leader|\r\n"},
+         "\t0|1|U |" + x300.substr(0, 254 - 8) + "\r\n\t4|2|L |Leader|\r\n"},
         // Ten countries at most: a count cut to ten is written as ten, with its ten names.
         {"9|2|\r\n\tNorland|Sudmark|", "9|12|\r\n\t" + names,
          "|9|10|\r\n\tC0|C1|C2|C3|C4|C5|C6|C7|C8|C9|\r\n</A>\r\n\t7|9|"},

@@ -1,0 +1,104 @@
+#include "model/NumberText.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <string>
+
+namespace {
+
+std::string Printf(const char* format, double value) {
+    char buffer[512];
+    std::snprintf(buffer, sizeof buffer, format, value);
+    return buffer;
+}
+
+std::string General(double value) {
+    std::string out = "<";
+    AppendGeneral(out, value);
+    return out;
+}
+
+std::string Fixed(double value) {
+    std::string out = "<";
+    AppendFixed(out, value, 2, 10);
+    return out;
+}
+
+// Values at the edges of the direct paths: ties and near-ties of the last digit, roundings that
+// carry into a new digit or exponent, the ends of the "%f" range of "%g", signed zero, values
+// too large or too small for the direct path, and those printf spells out.
+constexpr double kTricky[] = {0.0,
+                              -0.0,
+                              0.125,
+                              0.375,
+                              -0.001,
+                              0.005,
+                              1.005,
+                              2.5,
+                              9.9999995,
+                              99999.95,
+                              123456.5,
+                              999999.4,
+                              999999.5,
+                              1234565,
+                              9999995,
+                              0.0001,
+                              0.00009999995,
+                              0.000099999949,
+                              1e-5,
+                              1e10,
+                              9999999999.995,
+                              1e15,
+                              1e300,
+                              -1e-300,
+                              std::numeric_limits<double>::denorm_min(),
+                              std::numeric_limits<double>::quiet_NaN(),
+                              -std::numeric_limits<double>::quiet_NaN(),
+                              std::numeric_limits<double>::infinity(),
+                              -std::numeric_limits<double>::infinity()};
+
+TEST(NumberText, TrickyValuesAreWrittenAsPrintfWritesThem) {
+    for (double value : kTricky) {
+        EXPECT_EQ(General(value), "<" + Printf("%g", value)) << Printf("%.17g", value);
+        EXPECT_EQ(Fixed(value), "<" + Printf("%10.2f", value)) << Printf("%.17g", value);
+    }
+}
+
+// Costs and totals of every size, with many values on or next to a tie of the last digit.
+TEST(NumberText, RandomValuesAreWrittenAsPrintfWritesThem) {
+    std::mt19937_64 random(20261123);
+    for (int i = 0; i < 20000; ++i) {
+        const double magnitude = std::pow(10.0, static_cast<double>(random() % 24) - 8.0);
+        const double values[] = {
+            static_cast<double>(random() % 100000000) / 1e8 * magnitude,
+            static_cast<double>(random() % 10000000) / 100.0 + 0.005,
+            static_cast<double>(random() % 100000000) / 1000.0 + 0.0005,
+            std::ldexp(static_cast<double>(random() % 100000000), -static_cast<int>(random() % 40)),
+        };
+        for (double value : values) {
+            for (double signed_value : {value, -value}) {
+                ASSERT_EQ(General(signed_value), "<" + Printf("%g", signed_value))
+                    << Printf("%.17g", signed_value);
+                ASSERT_EQ(Fixed(signed_value), "<" + Printf("%10.2f", signed_value))
+                    << Printf("%.17g", signed_value);
+            }
+        }
+    }
+}
+
+TEST(NumberText, LeftAlignedNumbersArePaddedAfter) {
+    const std::pair<long long, const char*> cases[] = {
+        {0, "0  "}, {7, "7  "}, {-7, "-7 "}, {123, "123"}, {12345, "12345"}};
+    for (const auto& [value, text] : cases) {
+        std::string out;
+        AppendLeftAligned(out, value, 3);
+        EXPECT_EQ(out, text);
+    }
+}
+
+}  // namespace
