@@ -124,6 +124,23 @@ int Commit(CFileOps& ops, const std::string& path, const std::string& temporary,
     return RESULT_DONE;
 }
 
+// A device or a pipe named as the output (/dev/null, /dev/stdout, a FIFO a script reads) is
+// written into, not replaced: renaming a file over it would put a plain file in place of the
+// device, and there is no old content to keep. Not flushed, since such files take no fsync.
+int WriteInto(CFileOps& ops, const std::string& path, const std::string& target,
+              std::string_view bytes) {
+    const int fd = ops.Open(target, O_WRONLY, 0);
+    if (fd < 0) {
+        return Fail(path, errno);
+    }
+    int error = 0;
+    const bool ok = WriteAll(ops, fd, bytes, error);
+    if (ops.Close(fd) != 0 && ok) {
+        return Fail(path, errno);
+    }
+    return ok ? RESULT_DONE : Fail(path, error);
+}
+
 }  // namespace
 
 const std::string& LastWriteError() {
@@ -137,6 +154,9 @@ int ReplaceFile(const std::string& path, std::string_view bytes) {
     const bool replacing = ::stat(target.c_str(), &old) == 0;
     if (replacing && S_ISDIR(old.st_mode)) {
         return Fail(path, EISDIR);
+    }
+    if (replacing && !S_ISREG(old.st_mode)) {
+        return WriteInto(ops, path, target, bytes);
     }
     const std::string temporary = TemporaryNameFor(target);
     const int fd = ops.Open(temporary, O_WRONLY | O_CREAT | O_EXCL, 0666);

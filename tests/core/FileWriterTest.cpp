@@ -6,7 +6,10 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "FailingFileOps.h"
@@ -82,6 +85,27 @@ TEST(FileWriter, ReplaceFileWritesThroughSymbolicLinks) {
     EXPECT_EQ(folder.Names(), (Names{"dangling.inf", "fresh.inf", "real", "sub", "top.inf"}));
     EXPECT_EQ(folder.Names("real"), Names{"data.inf"});
     EXPECT_EQ(folder.Names("sub"), Names{"link.inf"});
+}
+
+// A device or a pipe is written into and stays what it is: no file takes its place.
+TEST(FileWriter, ReplaceFileWritesIntoDevicesAndPipes) {
+    CTempFolder folder;
+    EXPECT_EQ(ReplaceFile("/dev/null", "report"), RESULT_DONE);
+    struct stat st {};
+    ASSERT_EQ(::stat("/dev/null", &st), 0);
+    EXPECT_TRUE(S_ISCHR(st.st_mode));
+
+    const std::string fifo = folder / "pipe";
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    std::string received;
+    std::thread reader([&] {
+        std::ifstream in(fifo, std::ios::binary);
+        received.assign(std::istreambuf_iterator<char>(in), {});
+    });
+    EXPECT_EQ(ReplaceFile(fifo, "through the pipe"), RESULT_DONE);
+    reader.join();
+    EXPECT_EQ(received, "through the pipe");
+    EXPECT_EQ(folder.Names(), Names{"pipe"});
 }
 
 enum Start { kExisting, kMissing, kDanglingLink };

@@ -74,8 +74,9 @@ TEST_F(HostileTemplate, EveryRowInsertsAsDecided) {
         {"noise, no line feed", Noise(4096, "\n"), 0, "P(W)", "W\r\n"},
         {"noise lines without a keyword", Noise(64 * 1024, "ABLUSDGQXY"), 0, "P(W)", "W\r\n"},
         {"unit named with noise", kUnit + name + "\n", 0, "P(W " + name + ")", name},
+        // Read at the top level, written a tab deeper: the written line is cut again.
         {"1 MiB unit name", kUnit + x + "\n", 0, "P(W " + x.substr(0, 254 - kUnit.size()) + ")",
-         x.substr(0, 254 - kUnit.size())},
+         "\t" + kUnit + x.substr(0, 253 - kUnit.size()) + "\r\n"},
         {"1 MiB line ahead of the block", x + "\n" + kSmall, 0, "P(W First(Foot))", "First"},
         {"1 MiB unit name, no line feed", kUnit + x, 0, "P(W)", "W\r\n"},
         {"1 MiB of line feeds", std::string(kMiB, '\n') + kUnit + "a\n", 0, "P(W a)", "a\r\n"},
