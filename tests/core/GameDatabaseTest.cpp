@@ -6,12 +6,15 @@
 #include <sstream>
 #include <string>
 
+#include "HostileInputs.h"
 #include "TempFolder.h"
 #include "gamedata/GameRecords.h"
 #include "model/Result.h"
 #include "model/TextLines.h"
 
 namespace {
+
+using hostile::Replace;
 
 // A small target file exactly as the writer lays it out.
 const std::string kGolden =
@@ -30,14 +33,6 @@ std::unique_ptr<CGameDatabase> Parse(const std::string& text) {
     std::istringstream in(text);
     db->ReadFrom(in);
     return db;
-}
-
-std::string Replace(std::string text, const std::string& from, const std::string& to) {
-    for (std::size_t at = text.find(from); at != std::string::npos;
-         at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-    return text;
 }
 
 template <typename Record>
