@@ -17,28 +17,10 @@ protected:
         CReportTree::SetUp();
         // 1. North: 1.1 Chief, 1.2 First (1.2.1 Line, 1.2.2 Guns, 1.2.3 Wagons),
         //    1.3 Outer (1.3.1 Inner). 2. South: 2.1 Staff (2.1.1 Aide, 2.1.2 Foot).
-        Build({"A North",
-               "Begin",
-               "L 4 3 0 Chief",
-               "C First",
-               "Begin",
-               "U 8 2 Fus Musket 0 0 Line",
-               "U 6 2 Gun Cannon 0 0 Guns",
-               "S 9 0 Wagons",
-               "End",
-               "C Outer",
-               "Begin",
-               "C Inner",
-               "Begin",
-               "End",
-               "End",
-               "End",
-               "A South",
-               "Begin",
-               "C Staff",
-               "Begin",
-               "L 4 3 0 Aide",
-               "U 5 2 Fus Musket 0 0 Foot"});
+        Build({"A North", "Begin", "L 4 3 0 Chief", "C First", "Begin", "U 8 2 Fus Musket 0 0 Line",
+               "U 6 2 Gun Cannon 0 0 Guns", "S 9 0 Wagons", "End", "C Outer", "Begin", "C Inner"});
+        Build(
+            {"A South", "Begin", "C Staff", "Begin", "L 4 3 0 Aide", "U 5 2 Fus Musket 0 0 Foot"});
     }
 
     // Imports a game file made of nine header lines (the first looking like a record) and the
