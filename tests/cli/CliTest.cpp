@@ -2,41 +2,16 @@
 // tests, with every exit status.
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "cli/CliCommands.h"
-#include "cli/CliOptions.h"
+#include "RunCli.h"
 #include "core/SmallGameData.h"
 #include "core/TempFolder.h"
 
 namespace {
 
 const std::string kSample = HW_SAMPLE_DIR "/";
-
-struct CliRun {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-// What the tool does with these arguments: the usage error, or the command's run.
-CliRun RunCli(std::vector<std::string> args) {
-    std::vector<char*> argv{const_cast<char*>("harnwick-cli")};
-    for (std::string& arg : args) {
-        argv.push_back(arg.data());
-    }
-    CCliOptions options;
-    std::string error;
-    if (!ParseCliOptions(static_cast<int>(argv.size()), argv.data(), options, error)) {
-        return {EXIT_USAGE, "", error};
-    }
-    std::ostringstream out;
-    std::ostringstream err;
-    const int status = RunCliCommand(options, out, err);
-    return {status, out.str(), err.str()};
-}
 
 class Cli : public ::testing::Test {
 protected:
@@ -54,7 +29,6 @@ protected:
 
     CTempFolder m_folder;
     const std::string m_strSmallTarget = m_folder / "small.inf";
-    const std::string m_strMissing = m_folder / "missing/out";
 };
 
 TEST_F(Cli, TreeListsKeyTypeKindNameCostAndMen) {
@@ -120,13 +94,6 @@ TEST_F(Cli, UnknownClassDecidesTheBaseTypeOfANewUnitType) {
     }
 }
 
-TEST_F(Cli, NewWritesASkeletonThatReadsBack) {
-    const std::string out = m_folder / "new.oob";
-    ASSERT_EQ(RunCli({"new", kSample + "valdoria.inf", out}).status, EXIT_DONE);
-    EXPECT_EQ(ReadBytes(out),
-              "3\r\nA Army\r\n\tBegin\r\n\tL 4 4 0 Army Leader\r\n\tEnd\r\nDEP 6 0 Depot\r\n");
-}
-
 TEST_F(Cli, CheckListsEveryProblemAndExitsWithFour) {
     const std::string unit = "U 12 5 Jaeger Rifle 3 7 Light Company";
     const std::string oob = File("bad.oob", "3\nA Army of Norland\n\tBegin\n\t" + unit +
@@ -177,22 +144,6 @@ TEST_F(Cli, BadUsageExitsWithTwo) {
         const CliRun run = RunCli(args);
         EXPECT_EQ(run.status, EXIT_USAGE) << ::testing::PrintToString(args);
         EXPECT_NE(run.err, "");
-    }
-}
-
-TEST_F(Cli, OutputThatCannotBeWrittenExitsWithThree) {
-    const std::string target = kSample + "valdoria.inf";
-    const std::string oob = kSample + "valdoria.oob";
-    const std::vector<std::vector<std::string>> cases = {
-        {"new", target, m_strMissing},
-        {"target", target, m_strMissing},
-        {"save", target, oob, m_strMissing},
-        {"save", target, oob, m_folder / "o.oob", "--target-out", m_strMissing},
-    };
-    for (const auto& args : cases) {
-        const CliRun run = RunCli(args);
-        EXPECT_EQ(run.status, EXIT_CANNOT_WRITE) << ::testing::PrintToString(args);
-        EXPECT_EQ(run.err.rfind("harnwick-cli: cannot write " + m_strMissing, 0), 0u) << run.err;
     }
 }
 

@@ -4,32 +4,14 @@
 // back.
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "cli/CliCommands.h"
-#include "cli/CliOptions.h"
+#include "RunCli.h"
 #include "core/FailingFileOps.h"
 #include "core/TempFolder.h"
 
 namespace {
-
-int RunTool(std::vector<std::string> args, std::string& err) {
-    std::vector<char*> argv{const_cast<char*>("harnwick-cli")};
-    for (std::string& arg : args) {
-        argv.push_back(arg.data());
-    }
-    CCliOptions options;
-    std::string error;
-    EXPECT_TRUE(ParseCliOptions(static_cast<int>(argv.size()), argv.data(), options, error))
-        << error;
-    std::ostringstream out;
-    std::ostringstream errors;
-    const int status = RunCliCommand(options, out, errors);
-    err = errors.str();
-    return status;
-}
 
 TEST(CliWriteFaults, EveryWritingCommandReportsAFailedWriteAndExitsWithThree) {
     const std::string target = HW_SAMPLE_DIR "/valdoria.inf";
@@ -50,13 +32,14 @@ TEST(CliWriteFaults, EveryWritingCommandReportsAFailedWriteAndExitsWithThree) {
     for (const std::vector<std::string>& args : commands) {
         SCOPED_TRACE(::testing::PrintToString(args));
         WriteBytes(out, "old");
-        std::string err;
         CFailingOps dry;
-        ASSERT_EQ(WithOps(dry, [&] { return RunTool(args, err); }), EXIT_DONE) << err;
+        const CliRun done = WithOps(dry, [&] { return RunCli(args); });
+        ASSERT_EQ(done.status, EXIT_DONE) << done.err;
         WriteBytes(out, "old");
         CFailingOps last({dry.m_ops.size(), false});
-        EXPECT_EQ(WithOps(last, [&] { return RunTool(args, err); }), EXIT_CANNOT_WRITE);
-        EXPECT_EQ(err, "harnwick-cli: cannot write " + out + ": Input/output error\n");
+        const CliRun failed = WithOps(last, [&] { return RunCli(args); });
+        EXPECT_EQ(failed.status, EXIT_CANNOT_WRITE);
+        EXPECT_EQ(failed.err, "harnwick-cli: cannot write " + out + ": Input/output error\n");
         EXPECT_EQ(ReadBytes(out), "old");
     }
 }

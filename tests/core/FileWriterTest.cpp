@@ -180,19 +180,4 @@ TEST(FileWriter, FailingAnyOperationLeavesTheFileAsItWas) {
     }
     EXPECT_EQ(OpenDescriptors(), descriptors);
 }
-
-TEST(FileWriter, AppendToFileAppendsOrCreates) {
-    CTempFolder folder;
-    WriteBytes(folder / "a.tpl", "abc");
-    EXPECT_EQ(AppendToFile(folder / "a.tpl", "def\r\n"), RESULT_DONE);
-    EXPECT_EQ(AppendToFile(folder / "a.tpl", ""), RESULT_DONE);
-    EXPECT_EQ(ReadBytes(folder / "a.tpl"), "abcdef\r\n");
-    EXPECT_EQ(AppendToFile(folder / "b.tpl", "xyz"), RESULT_DONE);
-    EXPECT_EQ(ReadBytes(folder / "b.tpl"), "xyz");
-    ASSERT_EQ(::symlink("a.tpl", (folder / "link.tpl").c_str()), 0);
-    EXPECT_EQ(AppendToFile(folder / "link.tpl", "ghi"), RESULT_DONE);
-    EXPECT_TRUE(IsLink(folder / "link.tpl"));
-    EXPECT_EQ(ReadBytes(folder / "a.tpl"), "abcdef\r\nghi");
-}
-
 }  // namespace

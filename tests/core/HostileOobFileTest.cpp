@@ -16,12 +16,7 @@ namespace {
 using namespace hostile;
 
 const std::string kSmall =
-    "3\r\n"
-    "A Army\r\n"
-    "\tBegin\r\n"
-    "\tL 4 7 0 Marshal\r\n"
-    "\tU 10 3 Foot Musket 1 2 Line\r\n"
-    "\tEnd\r\n"
+    "3\r\nA Army\r\n\tBegin\r\n\tL 4 7 0 Marshal\r\n\tU 10 3 Foot Musket 1 2 Line\r\n\tEnd\r\n"
     "DEP 6 4 Depot\r\n";
 const char* const kSmallShape = "Army(Marshal Line) Depot";
 const std::string kUnitLine = "\tU 10 3 Foot Musket 1 2 Line\r\n";
@@ -158,15 +153,8 @@ TEST(HostileOobFile, EveryRowReadsAsDecided) {
 // so a cut gives the tree of the whole lines before it, listed line by line.
 TEST(HostileOobFile, FileCutAtEveryByte) {
     const char* const afterLines[] = {
-        "",
-        "",
-        "Army",
-        "Army",
-        "Army(Marshal)",
-        "Army(Marshal Line)",
-        "Army(Marshal Line)",
-        kSmallShape,
-    };
+        "",         "", "Army", "Army", "Army(Marshal)", "Army(Marshal Line)", "Army(Marshal Line)",
+        kSmallShape};
     for (std::size_t n = 0; n <= kSmall.size(); ++n) {
         EXPECT_EQ(Load(kSmall.substr(0, n)), afterLines[LinesBefore(kSmall, n)]) << n;
     }

@@ -17,26 +17,11 @@ namespace {
 using namespace hostile;
 
 const std::string kSmall =
-    "\tMarches|\r\n"
-    "\t0|1|2|3|4|5|\r\n"
-    "\t48|64|32|40|16|16|16|18|20|16|\r\n"
-    "\t3|0|1|0|1|0.5|-9|9|2|\r\n"
-    "\tNorland|Sudmark|\r\n"
-    "</A>\r\n"
-    "\t7|9|A |Army|\r\n"
-    "\t0|1|U |Unit|\r\n"
-    "</B>\r\n"
-    "\t1|2|0.1|2|5|40|Foot|\r\n"
-    "</C>\r\n"
-    "\t1|Fus|0.2|Fusilier|\r\n"
-    "\t\tMusket|0.3|Musket|\r\n"
-    "\t\t</W>\r\n"
-    "</D>\r\n"
-    "\tnorth.oob|North|\r\n"
-    "</E>\r\n"
-    "\tt.tpl|\r\n"
-    "\t6|3|1|1500|Brigade|\r\n"
-    "</F>";
+    "\tMarches|\r\n\t0|1|2|3|4|5|\r\n\t48|64|32|40|16|16|16|18|20|16|\r\n"
+    "\t3|0|1|0|1|0.5|-9|9|2|\r\n\tNorland|Sudmark|\r\n</A>\r\n"
+    "\t7|9|A |Army|\r\n\t0|1|U |Unit|\r\n</B>\r\n\t1|2|0.1|2|5|40|Foot|\r\n</C>\r\n"
+    "\t1|Fus|0.2|Fusilier|\r\n\t\tMusket|0.3|Musket|\r\n\t\t</W>\r\n</D>\r\n"
+    "\tnorth.oob|North|\r\n</E>\r\n\tt.tpl|\r\n\t6|3|1|1500|Brigade|\r\n</F>";
 const char* const kSmallCounts = "k2 b1 t1 w1 o1 f1";
 
 // Kinds, base types, types, weapons, attached orders of battle, templates.

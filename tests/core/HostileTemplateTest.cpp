@@ -17,12 +17,7 @@ namespace {
 using namespace hostile;
 
 const std::string kSmall =
-    "B First\r\n"
-    "\tBegin\r\n"
-    "\tU 1 1 Foot Musket 0 0 Foot\r\n"
-    "\tEnd\r\n"
-    "</T>\r\n"
-    "S 20 12 Train\r\n"
+    "B First\r\n\tBegin\r\n\tU 1 1 Foot Musket 0 0 Foot\r\n\tEnd\r\n</T>\r\nS 20 12 Train\r\n"
     "</T>\r\n";
 const std::string kUnit = "U 1 1 Foot Musket 0 0 ";
 
@@ -148,15 +143,10 @@ TEST_F(HostileTemplate, EveryRowInsertsAsDecided) {
 // The small file cut after every byte: the characters after the last line feed are not read,
 // so a cut inserts what the whole lines before it hold, listed line by line for each block.
 TEST_F(HostileTemplate, FileCutAtEveryByte) {
-    const char* const block0[] = {"P(W)",
-                                  "P(W First)",
-                                  "P(W First)",
-                                  "P(W First(Foot))",
-                                  "P(W First(Foot))",
-                                  "P(W First(Foot))",
-                                  "P(W First(Foot))",
-                                  "P(W First(Foot))"};
-    const char* const block1[] = {"P(W)", "P(W)", "P(W)",       "P(W)",
+    const std::string first = "P(W First)";
+    const std::string foot = "P(W First(Foot))";
+    const std::string block0[] = {"P(W)", first, first, foot, foot, foot, foot, foot};
+    const std::string block1[] = {"P(W)", "P(W)", "P(W)",       "P(W)",
                                   "P(W)", "P(W)", "P(W Train)", "P(W Train)"};
     for (std::size_t n = 0; n <= kSmall.size(); ++n) {
         const std::string cut = kSmall.substr(0, n);

@@ -114,30 +114,6 @@ TEST_F(OobDocument, SaveAndLoadGiveTheSameTreeAndBytes) {
     EXPECT_EQ(m_doc.m_strName, saved);
 }
 
-// Block lines are recognised on the normalised line only when they are the whole line; "End"
-// with no open block closes nothing; lines of no item class are passed over and reported.
-TEST_F(OobDocument, ReadsOddLinesAsDecided) {
-    const struct {
-        std::string text, shape;
-        std::vector<std::string> passedOver;
-    } cases[] = {
-        {"A Army\n\tBegin  \n\tL 4 7 0 Marshal Orm\nBegin x\n\t" + kUnit + "Foot\n",
-         "Army(Marshal Orm Foot)",
-         {"5:Begin x"}},
-        {kUnit + "a\nEnd\nEnd\nA Army\n\tBegin\n\t" + kUnit + "b\n", "a Army(b)", {}},
-        {"X 1 2 Stray\n" + kUnit + "Kept\nab\nY Other\nZed unknown\n\n",
-         "Kept",
-         {"2:X 1 2 Stray", "5:Y Other", "6:Zed unknown"}},
-    };
-    for (const auto& c : cases) {
-        m_doc.m_passedOver.clear();
-        m_tree.DeleteAllItems();
-        Load("3\n" + c.text);
-        EXPECT_EQ(Shape(m_tree), c.shape);
-        EXPECT_EQ(m_doc.m_passedOver, c.passedOver);
-    }
-}
-
 class Templates : public OobDocument {
 protected:
     void SetUp() override {

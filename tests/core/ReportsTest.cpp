@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "ReportTree.h"
-#include "TempFolder.h"
 #include "model/ContainerItems.h"
 #include "model/Result.h"
 #include "model/TextLines.h"
@@ -142,14 +141,4 @@ TEST(ReportsOnTheSample, OnePassTotalsAgreeWithAggregate) {
     const double total = ItemOf(tree, army)->Aggregate(tree, army, CATEGORY_ALL, MEASURE_COST);
     EXPECT_NE(cost.find(Format(" %10.2f : ", total)), std::string::npos);
 }
-
-TEST_F(Reports, WritersReplaceTheirFiles) {
-    Build({"A North", "Begin", "L 4 3 0 Chief"});
-    CTempFolder folder;
-    EXPECT_EQ(m_doc.WriteKeyReport(folder / "key.txt", m_tree), RESULT_DONE);
-    EXPECT_EQ(ReadBytes(folder / "key.txt"), m_doc.KeyReport(m_tree));
-    EXPECT_EQ(m_doc.WriteHtmlReport(folder / "no/such/folder.html", m_tree, 0),
-              RESULT_CANNOT_WRITE);
-}
-
 }  // namespace

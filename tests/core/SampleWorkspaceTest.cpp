@@ -1,6 +1,6 @@
 // The sample workspace that ships with the program: every file of it reads without a single
-// question, every item finds the records its cost needs, and the program writes each file back
-// byte for byte as it stands on disk.
+// question, every item finds the records its cost needs, and the orders of battle write back
+// byte for byte (the workspace and target files are written back by the File and CLI tests).
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -8,7 +8,6 @@
 
 #include "SmallGameData.h"
 #include "TempFolder.h"
-#include "app/Workspace.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/OobDocument.h"
@@ -51,15 +50,6 @@ protected:
     CGameDatabase m_database;
     COobDocument m_document;
 };
-
-TEST_F(SampleWorkspace, WorkspaceAndTargetFilesWriteBackByteForByte) {
-    CWorkspace workspace;
-    ASSERT_EQ(workspace.Load(kSample + "harnwick.txt"), RESULT_DONE);
-    EXPECT_EQ(workspace.m_strPicturePaths[4], "icons3d0.bmp");
-    EXPECT_EQ(workspace.ToText(), ReadBytes(kSample + "harnwick.txt"));
-    EXPECT_EQ(m_database.m_Templates.Count(), 2);
-    EXPECT_EQ(m_database.ToText(), ReadBytes(kSample + "valdoria.inf"));
-}
 
 // The campaign and the attached order of battle: every line an entry with all its records,
 // nothing added to the game data, and the tree written back as the file stands.

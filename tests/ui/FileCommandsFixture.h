@@ -55,7 +55,7 @@ protected:
              {"harnwick.txt", "valdoria.inf", "valdoria.oob", "frontier.oob", "valdoria.tpl"}) {
             std::filesystem::copy_file(std::string(HW_SAMPLE_DIR) + "/" + name, folder / name);
         }
-        WriteFileBytes(folder / "START.INI", folder.Path() + "\r\n");
+        WriteBytes(folder / "START.INI", folder.Path() + "\r\n");
     }
 
     // Runs the main window with script, and quits it afterwards.

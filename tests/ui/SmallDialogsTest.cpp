@@ -207,15 +207,6 @@ TEST_F(AttachedDlgTest, GivesTheSelectedLineHoweverItCloses) {
     }
 }
 
-TEST_F(AttachedDlgTest, WithNoAttachedOrderOfBattleItGivesMinusOne) {
-    CAttachedDlg dlg(database);
-    ui.OnDialog(IDD_ATTACHED, [](CHeadlessUser& user) {
-        EXPECT_EQ(user.Lines(IDC_CHOICE_LIST).GetCount(), 0);
-        user.Click(IDC_CHOICE_ACCEPT);
-    });
-    EXPECT_EQ(dlg.DoModal(), -1);
-}
-
 using UnitClassDlgTest = HeadlessTest;
 
 TEST_F(UnitClassDlgTest, ShowsTheLineAndGivesTheClassWithInfantryForEscape) {

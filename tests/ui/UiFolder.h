@@ -17,12 +17,3 @@ public:
 private:
     std::filesystem::path m_previous;
 };
-
-// The names the file command tests know these by.
-inline std::string ReadFileBytes(const std::string& path) {
-    return ReadBytes(path);
-}
-
-inline void WriteFileBytes(const std::string& path, const std::string& bytes) {
-    WriteBytes(path, bytes);
-}

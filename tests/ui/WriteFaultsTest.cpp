@@ -59,14 +59,14 @@ TEST_F(FileCommandsTest, AFailedWriteOfSaveOrNewNamesTheFileAndKeepsTheWorkspace
             const CWorkspace* workspace = main.m_pWorkspace.get();
             std::vector<std::string> kept;  // the files as the next command needs them
             for (const std::string& file : command.files) {
-                kept.push_back(ReadFileBytes(file));
+                kept.push_back(ReadBytes(file));
             }
             for (const CFault& fault : FaultsOf(dry.m_ops.size())) {
                 SCOPED_TRACE(fault.Name(dry.m_ops));
                 EditTree(main);
                 const std::vector<std::string> labels = Labels(main.m_tree);
                 for (const std::string& file : command.files) {
-                    WriteFileBytes(file, "old " + file);
+                    WriteBytes(file, "old " + file);
                 }
                 command.answers();
                 ui.AnswerMessage(IDOK);
@@ -79,13 +79,13 @@ TEST_F(FileCommandsTest, AFailedWriteOfSaveOrNewNamesTheFileAndKeepsTheWorkspace
                         return error.text.rfind("Cannot write " + file + ": ", 0) == 0;
                     });
                 ASSERT_NE(named, command.files.end()) << error.text;
-                EXPECT_EQ(ReadFileBytes(*named), "old " + *named);
+                EXPECT_EQ(ReadBytes(*named), "old " + *named);
                 ExpectStatus(user, "*", "*");
                 EXPECT_EQ(Labels(main.m_tree), labels);
                 EXPECT_EQ(main.m_pWorkspace.get(), workspace);
             }
             for (std::size_t i = 0; i < kept.size(); ++i) {
-                WriteFileBytes(command.files[i], kept[i]);
+                WriteBytes(command.files[i], kept[i]);
             }
         }
     });
