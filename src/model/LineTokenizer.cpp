@@ -46,10 +46,28 @@ std::uint64_t EqualBytes(std::uint64_t word, std::uint64_t pattern) {
     return ~(((x & kLow7) + kLow7) | x | kLow7);
 }
 
+// Sixteen bytes in one vector register, where the compiler has them (gcc and clang do on every
+// target they build this for).
+using Bytes16 = unsigned char __attribute__((vector_size(16)));
+
+Bytes16 Load16(const char* p) {
+    Bytes16 bytes;
+    std::memcpy(&bytes, p, sizeof bytes);
+    return bytes;
+}
+
+template <typename Mask>
+bool AnySet(Mask mask) {
+    std::uint64_t halves[2];
+    static_assert(sizeof mask == sizeof halves);
+    std::memcpy(halves, &mask, sizeof halves);
+    return (halves[0] | halves[1]) != 0;
+}
+
 }  // namespace
 
-// Eight positions a step: a tab at i, or delimiters at both i and i + 1 (read as the same word
-// shifted by one byte).
+// Sixteen positions a step on a long line, eight on a short one: a tab at i, or delimiters at both
+// i and i + 1 (read as the same word shifted by one byte).
 bool CLineTokenizer::NeedsCompacting(const char* begin, const char* end) const {
     const std::uint64_t tabs = static_cast<unsigned char>('\t') * kOnes;
     const std::uint64_t delimiters = static_cast<unsigned char>(m_cDelimiter) * kOnes;
@@ -68,12 +86,22 @@ bool CLineTokenizer::NeedsCompacting(const char* begin, const char* end) const {
         }
         return false;
     }
-    for (const char* p = begin; end - p >= 9; p += 8) {
-        if (check(p)) {
+    if (end - begin < 17) {
+        return check(begin) || check(end - 9);
+    }
+    const Bytes16 tabs16 = Bytes16{} + static_cast<unsigned char>('\t');
+    const Bytes16 delimiters16 = Bytes16{} + static_cast<unsigned char>(m_cDelimiter);
+    const auto check16 = [&](const char* p) {
+        const Bytes16 here = Load16(p);
+        return AnySet((here == tabs16) |
+                      ((here == delimiters16) & (Load16(p + 1) == delimiters16)));
+    };
+    for (const char* p = begin; end - p >= 17; p += 16) {
+        if (check16(p)) {
             return true;
         }
     }
-    return check(end - 9);
+    return check16(end - 17);
 }
 
 // Separators (tabs and the delimiter) before the first field and after the last are dropped,

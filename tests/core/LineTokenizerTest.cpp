@@ -27,6 +27,23 @@ TEST(LineTokenizer, NormalisesSeparatorRunsAndEnds) {
     }
 }
 
+// Lines of every length up to past two vector widths, with the one tab or doubled delimiter at
+// every inner position: the check for clean lines must see it wherever it falls.
+TEST(LineTokenizer, FindsASeparatorRunAtAnyPositionOfAnyLength) {
+    for (std::size_t length = 3; length <= 40; ++length) {
+        for (std::size_t at = 1; at + 1 < length; ++at) {
+            std::string expected(length, 'x');
+            expected[at] = ' ';
+            std::string tab = expected;
+            tab[at] = '\t';
+            std::string doubled = expected;
+            doubled.insert(at, 1, ' ');
+            EXPECT_EQ(Tokenize(' ', tab).GetLine(), expected) << length << " " << at;
+            EXPECT_EQ(Tokenize(' ', doubled).GetLine(), expected) << length << " " << at;
+        }
+    }
+}
+
 TEST(LineTokenizer, ReadsFieldsAfterSeekAndStopsOnTheDelimiter) {
     CLineTokenizer t = Tokenize(' ', "  word   12\t\t3  ");
     t.SeekField(1);
