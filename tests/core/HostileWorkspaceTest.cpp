@@ -7,6 +7,7 @@
 
 #include "HostileInputs.h"
 #include "TempFolder.h"
+#include "WorkspaceFields.h"
 #include "app/Workspace.h"
 #include "model/Result.h"
 
@@ -21,15 +22,6 @@ const std::string kSmallFields =
     "Spring|spring.oob|spring.bak|target.inf|1:units.bmp|0:empty|1:icons1.bmp|0:empty|"
     "1:icons3.bmp|";
 const std::string kFreshFields = "||||0:empty|0:empty|0:empty|0:empty|0:empty|";
-
-std::string Fields(const CWorkspace& w) {
-    std::string out = w.m_strTitle + "|" + w.m_strOobFile + "|" + w.m_strBackupFile + "|" +
-                      w.m_strTargetFile + "|";
-    for (int i = 0; i < CWorkspace::kPictures; ++i) {
-        out += std::to_string(w.m_nPictureFlags[i]) + ":" + w.m_strPicturePaths[i] + "|";
-    }
-    return out;
-}
 
 std::string Read(const std::string& text) {
     CWorkspace w;

@@ -7,18 +7,10 @@
 #include <string>
 
 #include "TempFolder.h"
+#include "WorkspaceFields.h"
 #include "model/Result.h"
 
 namespace {
-
-std::string Fields(const CWorkspace& w) {
-    std::string out = w.m_strTitle + "|" + w.m_strOobFile + "|" + w.m_strBackupFile + "|" +
-                      w.m_strTargetFile + "|";
-    for (int i = 0; i < CWorkspace::kPictures; ++i) {
-        out += std::to_string(w.m_nPictureFlags[i]) + ":" + w.m_strPicturePaths[i] + "|";
-    }
-    return out;
-}
 
 class Workspace : public ::testing::Test {
 protected:
