@@ -127,9 +127,8 @@ int Commit(CFileOps& ops, const std::string& path, const std::string& temporary,
 // A device or a pipe named as the output (/dev/null, /dev/stdout, a FIFO a script reads) is
 // written into, not replaced: renaming a file over it would put a plain file in place of the
 // device, and there is no old content to keep. Not flushed, since such files take no fsync.
-int WriteInto(CFileOps& ops, const std::string& path, const std::string& target,
-              std::string_view bytes) {
-    const int fd = ops.Open(target, O_WRONLY, 0);
+int WriteInto(CFileOps& ops, const std::string& path, std::string_view bytes) {
+    const int fd = ops.Open(path, O_WRONLY, 0);
     if (fd < 0) {
         return Fail(path, errno);
     }
@@ -149,15 +148,17 @@ const std::string& LastWriteError() {
 
 int ReplaceFile(const std::string& path, std::string_view bytes) {
     CFileOps& ops = FileOps();
-    const std::string target = FollowLinks(path);
     struct stat old;
-    const bool replacing = ::stat(target.c_str(), &old) == 0;
+    // The kernel follows the links here: some end at no path a hand-made walk could name
+    // (/dev/stdout is a link to a pipe's descriptor).
+    const bool replacing = ::stat(path.c_str(), &old) == 0;
     if (replacing && S_ISDIR(old.st_mode)) {
         return Fail(path, EISDIR);
     }
     if (replacing && !S_ISREG(old.st_mode)) {
-        return WriteInto(ops, path, target, bytes);
+        return WriteInto(ops, path, bytes);
     }
+    const std::string target = FollowLinks(path);
     const std::string temporary = TemporaryNameFor(target);
     const int fd = ops.Open(temporary, O_WRONLY | O_CREAT | O_EXCL, 0666);
     if (fd < 0) {

@@ -106,6 +106,17 @@ TEST(FileWriter, ReplaceFileWritesIntoDevicesAndPipes) {
     reader.join();
     EXPECT_EQ(received, "through the pipe");
     EXPECT_EQ(folder.Names(), Names{"pipe"});
+
+    // As /dev/stdout names a pipe a script reads: a link to a descriptor, not to a path.
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    EXPECT_EQ(ReplaceFile("/proc/self/fd/" + std::to_string(ends[1]), "to a descriptor"),
+              RESULT_DONE);
+    ::close(ends[1]);
+    char buffer[64] = {};
+    EXPECT_EQ(std::string(buffer, static_cast<std::size_t>(::read(ends[0], buffer, sizeof buffer))),
+              "to a descriptor");
+    ::close(ends[0]);
 }
 
 enum Start { kExisting, kMissing, kDanglingLink };
