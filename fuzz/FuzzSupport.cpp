@@ -211,13 +211,16 @@ bool HasCutLine(const CTreeStore& tree) {
     return false;
 }
 
-std::unique_ptr<COobSession> RequireOobFixedPoint(const std::string& text) {
+std::unique_ptr<COobSession> RequireOobFixedPoint(const std::string& text, bool cut) {
     auto again = std::make_unique<COobSession>();
     Require(
         again->document.LoadTree(WriteScratchFile("written.oob", text), again->tree) == RESULT_DONE,
         "the written file does not open");
     RequireConsistentTree(again->tree);
     const std::string second = again->document.ToText(again->tree);
+    if (cut && second != text) {
+        return RequireOobFixedPoint(second, false);
+    }
     if (second != text) {
         ShowFirstDifference(text, second);
     }

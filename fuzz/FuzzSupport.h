@@ -55,11 +55,13 @@ bool HasChildrenOutsideContainers(const CTreeStore& tree);
 
 // True when the writer cuts the line of an entry of tree: its indentation and its item's text are
 // longer than the readers take. That happens only with what was read from a long line of a
-// damaged file (an item read at the top level and written deeper); the text still reads back as
-// written, but not as the same tree.
+// damaged file (an item read at the top level and written deeper); what was cut off does not
+// come back, so the text does not read back as the same tree.
 bool HasCutLine(const CTreeStore& tree);
 
 // The order-of-battle reader's fixed point: text is what the writer made of some tree. Reading
-// it again (on fresh game data) and writing must give the same bytes. Returns the second
-// session, for callers that compare its tree.
-std::unique_ptr<COobSession> RequireOobFixedPoint(const std::string& text);
+// it again (on fresh game data) and writing must give the same bytes. When the writer cut a line
+// of that tree (cut), the cut may have reached a unit's type or weapon, and the reader passes
+// such a line over, as the game cannot read it either: then the text one round later must be
+// the fixed point. Returns the last session, for callers that compare its tree.
+std::unique_ptr<COobSession> RequireOobFixedPoint(const std::string& text, bool cut);

@@ -54,6 +54,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             "the template file does not open");
     RequireConsistentTree(session.tree);
     Require(session.tree.GetCount() >= before, "inserting a template removes entries");
-    RequireOobFixedPoint(session.document.ToText(session.tree));
+    RequireOobFixedPoint(session.document.ToText(session.tree), HasCutLine(session.tree));
     return 0;
 }
