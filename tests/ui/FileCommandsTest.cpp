@@ -409,26 +409,16 @@ TEST_F(FileCommandsTest, AnUnknownUnitTypeIsAskedAboutThroughTheMainWindow) {
     };
     Run([&](CHeadlessUser& user, CMainDlg& main) {
         for (const UnknownTypeCase& c : cases) {
-            ui.AnswerMessage(IDYES);
-            ui.AnswerFileDialog(folder / "odd.txt");
-            ui.AnswerFileDialog(folder / "odd.oob");
-            ui.AnswerFileDialog(folder / "valdoria.inf");
-            ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
-                ws.Click(IDC_WS_OOB_PICK);
-                ws.Click(IDC_WS_TARGET_PICK);
-                ws.Click(IDC_WS_ACCEPT);
-            });
-            ui.AnswerMessage(
-                "Entry : U 26 4 Zouaves Musket 3 0 2 Zouave Company\nUknown unit "
-                "type : [Zouaves]",
-                IDOK);
             ui.OnDialog(IDD_UNIT_CLASS, [&c](CHeadlessUser& question) {
                 EXPECT_EQ(question.Text(IDC_CLASS_LINE),
                           "U 26 4 Zouaves Musket 3 0 2 Zouave Company");
                 c.answer(question);
             });
-            ui.AnswerMessage(IDOK);  // and its weapon
-            user.Command(ID_FILE_NEW_EXISTING);
+            const std::string entry = "Entry : U 26 4 Zouaves Musket 3 0 2 Zouave Company\n";
+            New(user, ID_FILE_NEW_EXISTING, folder / "odd.txt", folder / "odd.oob",
+                folder / "valdoria.inf",
+                {entry + "Uknown unit type : [Zouaves]",
+                 entry + "Uknown weapon type : [Musket] for unit type [Zouaves]"});
             const auto& type =
                 static_cast<const CTypeRecord&>(*main.m_pDatabase->m_Types.Head()->m_pPayload);
             EXPECT_EQ(type.m_strType, "Zouaves");
