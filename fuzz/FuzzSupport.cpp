@@ -62,7 +62,9 @@ void AppendOutline(const CTreeStore& tree, HTREEITEM entry, int depth, std::stri
         const COobItem* item = ItemOf(tree, child);
         out += std::to_string(depth) + ' ' + std::to_string(item->m_nType) + ' ';
         item->ToText(out);
-        out += '|' + tree.GetItemText(child) + '\n';
+        out += '|';
+        out += tree.GetItemText(child);
+        out += '\n';
         AppendOutline(tree, child, depth + 1, out);
     }
 }

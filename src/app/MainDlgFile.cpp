@@ -80,7 +80,7 @@ bool CMainDlg::SaveFilesPrompt() {
     if (m_strOobStatus != "*" || !Ask("Do you want to save your files?", "Save")) {
         return true;
     }
-    if (m_pDocument->Save(m_pDocument->m_strName, m_tree) != RESULT_DONE ||
+    if (m_pDocument->Save(std::string(m_pDocument->m_strName), m_tree) != RESULT_DONE ||
         m_pWorkspace->Save(m_pWorkspace->m_strPath) != RESULT_DONE) {
         ShowWriteError();
         return false;

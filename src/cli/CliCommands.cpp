@@ -139,7 +139,8 @@ int Check(CSession& session, const CCliOptions& options, std::ostream& out, std:
         const std::string key = keys.Next(walk.Depth());
         const std::string missing = MissingRecords(item);
         if (!missing.empty()) {
-            problems.push_back(key + " " + item.m_strName + ": missing record:" + missing);
+            problems.push_back(key + " " + std::string(item.m_strName) +
+                               ": missing record:" + missing);
         }
     }
     for (const std::string& problem : problems) {

@@ -36,7 +36,7 @@ bool CAddListDlg::OnInitDialog() {
         if (m_bStop && type.m_strType == m_strStopName) {
             break;
         }
-        const int line = m_list.AddString(type.m_strName);
+        const int line = m_list.AddString(std::string(type.m_strName));
         m_list.SetItemData(line, reinterpret_cast<std::uintptr_t>(&type));
     }
     m_list.SetCurSel(0);

@@ -18,7 +18,7 @@ void CAttachedDlg::DoDataExchange(CDataExchange* pDX) {
 bool CAttachedDlg::OnInitDialog() {
     m_list.ResetContent();
     for (CDataListNode* node = m_database.m_AttachedOobs.Head(); node; node = node->m_pNext) {
-        m_list.AddString(node->m_pPayload->m_strName);
+        m_list.AddString(std::string(node->m_pPayload->m_strName));
     }
     m_list.SetCurSel(0);
     CDialog::OnInitDialog();

@@ -46,7 +46,7 @@ void CFindDlg::OnSearch() {
     for (CTreeWalk walk(m_tree, nullptr); !walk.Done(); walk.Step()) {
         const HTREEITEM entry = walk.Current();
         if (m_tree.GetItemText(entry).find(m_strSearch) != std::string::npos) {
-            const int line = m_list.AddString(m_tree.GetItemText(entry));
+            const int line = m_list.AddString(std::string(m_tree.GetItemText(entry)));
             m_list.SetItemData(line, reinterpret_cast<std::uintptr_t>(entry));
         }
     }

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "gamedata/KindIndex.h"
 #include "model/DataList.h"
 #include "model/DataObject.h"
 
@@ -54,7 +55,13 @@ public:
     std::string m_strTemplateFile;
     CDataList m_Templates;
 
+    // The first kind, in the list's order, whose keyword begins the normalised line.
+    CKindRecord* FindKindForLine(std::string_view line) { return m_KindIndex.Find(m_Kinds, line); }
+
     // Who answers the questions the item readers ask about unknown records (none: no message,
     // and new unit types are infantry). Not owned.
     CReaderPrompts* m_pPrompts = nullptr;
+
+private:
+    CKindIndex m_KindIndex;
 };

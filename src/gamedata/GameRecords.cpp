@@ -21,7 +21,7 @@ std::string Text(CLineTokenizer& t) {
     return value;
 }
 
-void Field(std::ostream& out, const std::string& text) {
+void Field(std::ostream& out, std::string_view text) {
     out << text << '|';
 }
 
@@ -35,15 +35,15 @@ void IntField(std::ostream& out, long value) {
 
 }  // namespace
 
-const std::string& TypeNameOf(const CDataObject& record) {
+std::string_view TypeNameOf(const CDataObject& record) {
     return static_cast<const CTypeRecord&>(record).m_strType;
 }
 
-const std::string& WeaponNameOf(const CDataObject& record) {
+std::string_view WeaponNameOf(const CDataObject& record) {
     return static_cast<const CWeaponRecord&>(record).m_strWeapon;
 }
 
-const std::string& KeywordOf(const CDataObject& record) {
+std::string_view KeywordOf(const CDataObject& record) {
     return static_cast<const CKindRecord&>(record).m_strKeyword;
 }
 

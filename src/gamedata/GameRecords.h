@@ -124,6 +124,6 @@ protected:
 };
 
 // The keys the record lists are indexed by.
-const std::string& TypeNameOf(const CDataObject& record);
-const std::string& WeaponNameOf(const CDataObject& record);
-const std::string& KeywordOf(const CDataObject& record);
+std::string_view TypeNameOf(const CDataObject& record);
+std::string_view WeaponNameOf(const CDataObject& record);
+std::string_view KeywordOf(const CDataObject& record);

@@ -68,7 +68,7 @@ std::vector<CContainerTotals> AllTotals(const CTreeStore& tree) {
     return totals;
 }
 
-void AppendContainerHtml(std::string& out, const std::string& name, const CContainerTotals& totals,
+void AppendContainerHtml(std::string& out, std::string_view name, const CContainerTotals& totals,
                          int flags) {
     out += "<BIG><B><U>";
     AppendEscaped(out, name);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/TreeStore.h"
@@ -23,5 +24,5 @@ std::vector<CContainerTotals> AllTotals(const CTreeStore& tree);
 
 // "<BIG><B><U>name</U></B></BIG> <SMALL>(totals)</SMALL>": the part of a container's HTML after
 // its image.
-void AppendContainerHtml(std::string& out, const std::string& name, const CContainerTotals& totals,
+void AppendContainerHtml(std::string& out, std::string_view name, const CContainerTotals& totals,
                          int flags);

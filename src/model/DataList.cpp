@@ -1,6 +1,7 @@
 #include "model/DataList.h"
 
 void CDataList::Init() {
+    ++m_nRevision;
     m_nCount = 0;
     m_pHead = m_pTail = m_pCursor = nullptr;
     m_slots.clear();
@@ -9,6 +10,7 @@ void CDataList::Init() {
 
 void CDataList::PushBack(std::unique_ptr<CDataObject> payload) {
     auto* node = new CDataListNode(std::move(payload));
+    ++m_nRevision;
     node->m_nIndex = m_nCount;
     node->m_pPrev = m_pTail;
     if (m_pTail) {
@@ -26,6 +28,7 @@ void CDataList::PushBack(std::unique_ptr<CDataObject> payload) {
 
 void CDataList::PushFront(std::unique_ptr<CDataObject> payload) {
     auto* node = new CDataListNode(std::move(payload));
+    ++m_nRevision;
     node->m_pNext = m_pHead;
     if (m_pHead) {
         m_pHead->m_pPrev = node;
@@ -120,7 +123,7 @@ void CDataList::Index(CDataListNode* node, bool replace) {
             }
         }
     }
-    const std::string& key = m_keyOf(*node->m_pPayload);
+    const std::string_view key = m_keyOf(*node->m_pPayload);
     const std::size_t hash = Hash(key);
     Slot& slot = SlotOf(key, hash);
     if (!slot.node) {

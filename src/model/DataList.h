@@ -2,6 +2,7 @@
 // the first match wins.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -23,7 +24,7 @@ public:
     // A list may keep an index by a text key of its records (a type's name, a weapon's name),
     // so that the first-match search by that key does not walk the list. The index is kept in
     // step by PushBack and PushFront; a record's key must not change while it is in the list.
-    using KeyOf = const std::string& (*)(const CDataObject&);
+    using KeyOf = std::string_view (*)(const CDataObject&);
 
     explicit CDataList(KeyOf keyOf = nullptr) : m_keyOf(keyOf) {}
     ~CDataList() { Clear(); }
@@ -43,6 +44,9 @@ public:
     CDataListNode* Tail() const { return m_pTail; }
     int Count() const { return m_nCount; }
     void Clear();
+    // Counts the changes to the list's membership, so that what is derived from the list can
+    // tell when to derive it again.
+    std::uint64_t Revision() const { return m_nRevision; }
 
     // The payload under the cursor, or none.
     CDataObject* CurrentPayload() const {
@@ -55,6 +59,7 @@ public:
 
 private:
     int m_nCount = 0;
+    std::uint64_t m_nRevision = 0;
     CDataListNode* m_pHead = nullptr;
     CDataListNode* m_pTail = nullptr;
     CDataListNode* m_pCursor = nullptr;
@@ -67,13 +72,15 @@ private:
         std::string_view key;  // the record's own key, which does not change while indexed
         CDataListNode* node = nullptr;
     };
-    // Keys are short names: FNV-1a hashes them in a few instructions a byte.
+    // Keys are short names: FNV-1a hashes them in a few instructions a byte. Its low bits,
+    // which pick the slot, depend only on the low bits of the bytes, so names that differ in a
+    // digit crowd together: the high half is folded into them.
     static std::size_t Hash(std::string_view key) {
-        std::size_t hash = 14695981039346656037ULL;
+        std::uint64_t hash = 14695981039346656037ULL;
         for (unsigned char c : key) {
             hash = (hash ^ c) * 1099511628211ULL;
         }
-        return hash;
+        return static_cast<std::size_t>(hash ^ (hash >> 32));
     }
     // The slot holding key, or the empty slot where it would go. The table must not be empty.
     Slot& SlotOf(std::string_view key, std::size_t hash);

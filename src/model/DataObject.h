@@ -6,6 +6,13 @@
 #include <iosfwd>
 #include <string>
 
+#include "platform/SmallObjectPool.h"
+
+// An object's name. Names live in the pool: an order of battle holds one for each of its entries,
+// most too long to sit inside a string of their own, and reading a large file would otherwise
+// spend a tenth of its time in the general allocator.
+using CNameText = std::basic_string<char, std::char_traits<char>, CPoolAllocator<char>>;
+
 // Type codes of the objects.
 enum : std::uint8_t {
     TYPE_UNIT = 0,
@@ -37,5 +44,5 @@ public:
     static void WriteTabs(std::ostream& out, std::uint8_t n);
 
     std::uint8_t m_nType = TYPE_OBJECT;
-    std::string m_strName;
+    CNameText m_strName;
 };

@@ -32,9 +32,8 @@ public:
     // True when the line ended before a record name it should hold. No line can name a record
     // with an empty name, so the item could not be written back as it was read.
     bool WordMissing() const { return m_bWordMissing; }
-    // The rest of the line: the item's name, with its inner blanks. A new string moved into the
-    // item costs less than assigning the text into the item's empty one.
-    std::string Rest() const { return std::string(m_tokenizer.RestView()); }
+    // The rest of the line: the item's name, with its inner blanks.
+    std::string_view Rest() const { return m_tokenizer.RestView(); }
     // The normalised line, as the warnings quote it.
     std::string_view Line() const { return m_tokenizer.Line(); }
 

@@ -316,12 +316,13 @@ int COobDocument::CreateDefault(const std::string& path) {
         for (CDataListNode* n = m_pDatabase->m_Kinds.Head(); n; n = n->m_pNext) {
             const auto& kind = static_cast<const CKindRecord&>(*n->m_pPayload);
             if (kind.TypeCode() == TYPE_ARMY) {
-                out += kind.m_strKeyword + kind.m_strName + kLineEnd;
+                const std::string name(kind.m_strName);
+                out += kind.m_strKeyword + name + kLineEnd;
                 out += std::string("\tBegin") + kLineEnd;
-                out += "\tL 4 4 0 " + kind.m_strName + " Leader" + kLineEnd;
+                out += "\tL 4 4 0 " + name + " Leader" + kLineEnd;
                 out += std::string("\tEnd") + kLineEnd;
             } else if (kind.TypeCode() == TYPE_DEPOT) {
-                out += kind.m_strKeyword + "6 0 " + kind.m_strName + kLineEnd;
+                out += kind.m_strKeyword + "6 0 " + std::string(kind.m_strName) + kLineEnd;
             }
         }
     }

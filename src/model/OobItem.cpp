@@ -99,16 +99,7 @@ CKindRecord* COobItem::FindKindForNormalisedLine(std::string_view line) {
 }
 
 CKindRecord* FindKindInLine(CGameDatabase* database, std::string_view line) {
-    if (!database) {
-        return nullptr;
-    }
-    for (CDataListNode* n = database->m_Kinds.Head(); n; n = n->m_pNext) {
-        auto* kind = static_cast<CKindRecord*>(n->m_pPayload.get());
-        if (CLineTokenizer::PrefixMatches(line, kind->m_strKeyword)) {
-            return kind;
-        }
-    }
-    return nullptr;
+    return database ? database->FindKindForLine(line) : nullptr;
 }
 
 namespace {

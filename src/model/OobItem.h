@@ -64,7 +64,7 @@ public:
     virtual void ReadFields(CItemLineReader& reader);
 
     // An entry shows the item's name unless it was given a label of its own.
-    const std::string* Label() const override { return &m_strName; }
+    std::string_view Label() const override { return m_strName; }
 
     // A copy of the item with the same records (the editors work on one).
     virtual std::unique_ptr<COobItem> Clone() const;

@@ -1,17 +1,110 @@
-// Allocation for the many small objects an order of battle is made of (tree entries and items):
-// blocks of a few sizes cut from large slabs, freed blocks kept for reuse. It saves the general
-// allocator's per-block header and most of its work on a tree of a million entries. Built with
-// AddressSanitizer, it hands every request to the general allocator so that misuse is caught.
+// Allocation for the many small objects an order of battle is made of (tree entries, items and
+// their names): blocks of a few sizes cut from large slabs, freed blocks kept for reuse. It saves
+// the general allocator's per-block header and most of its work on a tree of a million entries.
+// Built with AddressSanitizer, it hands every request to the general allocator so that misuse is
+// caught.
 #pragma once
 
 #include <cstddef>
+#include <new>
 
-void* PoolAllocate(std::size_t size);
-void PoolFree(void* block, std::size_t size);
+#if defined(__SANITIZE_ADDRESS__)
+#define HARNWICK_POOL_BYPASS 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define HARNWICK_POOL_BYPASS 1
+#endif
+#endif
+
+namespace pool_detail {
+
+inline constexpr std::size_t kGranule = 16;
+inline constexpr std::size_t kLargestPooled = 512;
+
+struct FreeBlock {
+    FreeBlock* next;
+};
+
+// Plain data with constant initialisation and no destructor: objects may still be allocated
+// before main and freed while static objects are being torn down.
+struct PoolState {
+    FreeBlock* free[kLargestPooled / kGranule + 1];
+    std::byte* next;
+    std::size_t left;
+    std::size_t inUse;
+    void* slabs;  // the slabs taken, linked through their first bytes
+    std::size_t slabCount;
+};
+extern constinit PoolState g_pool;
+
+// A block of bytes (a whole number of granules) from a new slab.
+void* AllocateFromNewSlab(std::size_t bytes);
+
+}  // namespace pool_detail
+
+// Inline: the size is known where an object is created, and the common case is a few
+// instructions.
+inline void* PoolAllocate(std::size_t size) {
+#ifndef HARNWICK_POOL_BYPASS
+    using namespace pool_detail;
+    if (size <= kLargestPooled) {
+        const std::size_t sizeClass = (size + kGranule - 1) / kGranule;
+        const std::size_t bytes = sizeClass * kGranule;
+        g_pool.inUse += bytes;
+        if (FreeBlock* block = g_pool.free[sizeClass]) {
+            g_pool.free[sizeClass] = block->next;
+            return block;
+        }
+        if (g_pool.left < bytes) {
+            return AllocateFromNewSlab(bytes);
+        }
+        void* block = g_pool.next;
+        g_pool.next += bytes;
+        g_pool.left -= bytes;
+        return block;
+    }
+#endif
+    return ::operator new(size);
+}
+
+inline void PoolFree(void* block, [[maybe_unused]] std::size_t size) {
+    if (block == nullptr) {
+        return;
+    }
+#ifndef HARNWICK_POOL_BYPASS
+    using namespace pool_detail;
+    if (size <= kLargestPooled) {
+        const std::size_t sizeClass = (size + kGranule - 1) / kGranule;
+        g_pool.inUse -= sizeClass * kGranule;
+        auto* freed = static_cast<FreeBlock*>(block);
+        freed->next = g_pool.free[sizeClass];
+        g_pool.free[sizeClass] = freed;
+        return;
+    }
+#endif
+    // The unsized form: clang declares the sized one only with -fsized-deallocation.
+    ::operator delete(block);
+}
+
 // Bytes of the blocks handed out and not yet freed (for the benchmarks' memory figures).
 std::size_t PoolBytesInUse();
 // Bytes of the slabs the pool took from the general allocator.
 std::size_t PoolSlabBytes();
+
+// Pool allocation for a container's elements (a tree entry's children).
+template <typename T>
+struct CPoolAllocator {
+    using value_type = T;
+    CPoolAllocator() = default;
+    template <typename U>
+    CPoolAllocator(const CPoolAllocator<U>&) {}
+    T* allocate(std::size_t n) { return static_cast<T*>(PoolAllocate(n * sizeof(T))); }
+    void deallocate(T* p, std::size_t n) { PoolFree(p, n * sizeof(T)); }
+    template <typename U>
+    bool operator==(const CPoolAllocator<U>&) const {
+        return true;
+    }
+};
 
 // Gives a class (and the classes derived from it) pool allocation.
 #define HARNWICK_POOL_ALLOCATED                                  \

@@ -31,13 +31,11 @@ void CTreeStore::Renumber(CTreeEntry& parent, std::size_t from) {
     }
 }
 
-const std::string& CTreeEntry::Label() const {
-    static const std::string none;
+std::string_view CTreeEntry::Label() const {
     if (m_pLabel) {
         return *m_pLabel;
     }
-    const std::string* label = m_pData ? m_pData->Label() : nullptr;
-    return label ? *label : none;
+    return m_pData ? m_pData->Label() : std::string_view();
 }
 
 HTREEITEM CTreeStore::InsertItem(std::string label, HTREEITEM parent, HTREEITEM insertAfter) {
@@ -108,7 +106,7 @@ CTreeItemData* CTreeStore::GetItemData(HTREEITEM entry) const {
     return entry ? entry->m_pData.get() : nullptr;
 }
 
-const std::string& CTreeStore::GetItemText(HTREEITEM entry) const {
+std::string_view CTreeStore::GetItemText(HTREEITEM entry) const {
     return entry->Label();
 }
 

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/SmallObjectPool.h"
@@ -19,7 +20,7 @@ public:
     virtual ~CTreeItemData() = default;
     // The label an entry inserted without a text of its own shows: the data's own name, so that
     // the store keeps no second copy of it (the tree control's text callback).
-    virtual const std::string* Label() const { return nullptr; }
+    virtual std::string_view Label() const { return {}; }
 };
 
 class CTreeEntry;
@@ -53,7 +54,7 @@ class CTreeEntry {
 public:
     HARNWICK_POOL_ALLOCATED
 
-    const std::string& Label() const;
+    std::string_view Label() const;
     CTreeItemData* Data() const { return m_pData.get(); }
     HTREEITEM Parent() const { return m_pParent; }
     std::size_t Row() const { return m_nRow; }
@@ -68,7 +69,8 @@ private:
     HTREEITEM m_pParent = nullptr;  // the store's hidden root for top-level entries
     std::uint32_t m_nRow = 0;       // position among the parent's children
     bool m_bExpanded = false;
-    std::vector<std::unique_ptr<CTreeEntry>> m_children;
+    std::vector<std::unique_ptr<CTreeEntry>, CPoolAllocator<std::unique_ptr<CTreeEntry>>>
+        m_children;
 };
 
 class CTreeStore {
@@ -91,7 +93,7 @@ public:
     void SetItemText(HTREEITEM entry, std::string label);
     void SetItemData(HTREEITEM entry, std::unique_ptr<CTreeItemData> data);
     CTreeItemData* GetItemData(HTREEITEM entry) const;
-    const std::string& GetItemText(HTREEITEM entry) const;
+    std::string_view GetItemText(HTREEITEM entry) const;
     bool ItemHasChildren(HTREEITEM entry) const;
 
     HTREEITEM GetNextItem(HTREEITEM entry, TreeNext code) const;

@@ -26,7 +26,7 @@ int UnicodeToWindows1252(char32_t c) {
     return -1;
 }
 
-std::u32string Windows1252ToUnicode(const std::string& bytes) {
+std::u32string Windows1252ToUnicode(std::string_view bytes) {
     std::u32string text;
     text.reserve(bytes.size());
     for (char byte : bytes) {

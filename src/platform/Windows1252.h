@@ -4,11 +4,12 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 char32_t Windows1252ToUnicode(unsigned char byte);
 // The byte for character c, or -1 when the code page cannot hold it.
 int UnicodeToWindows1252(char32_t c);
 
-std::u32string Windows1252ToUnicode(const std::string& bytes);
+std::u32string Windows1252ToUnicode(std::string_view bytes);
 // False (and bytes unchanged) when some character has no byte.
 bool UnicodeToWindows1252(const std::u32string& text, std::string& bytes);

@@ -13,12 +13,12 @@ std::unique_ptr<CDataObject> Record(std::string name) {
     return record;
 }
 
-const std::string& NameOf(const CDataObject& record) {
+std::string_view NameOf(const CDataObject& record) {
     return record.m_strName;
 }
 
 std::string NameAt(const CDataListNode* node) {
-    return node ? node->m_pPayload->m_strName : "none";
+    return node ? std::string(node->m_pPayload->m_strName) : "none";
 }
 
 // "A0 B1 C2" from head to tail, checking on the way that the links agree in both directions.
@@ -85,7 +85,7 @@ TEST(DataList, FindByKeyAgreesWithAWalkFromTheHead) {
         for (char k = 'a'; k <= 'g'; ++k) {
             const CDataObject* walked = nullptr;
             for (list.Rewind(); list.Current() && !walked; list.Next()) {
-                if (list.CurrentPayload()->m_strName == std::string(1, k)) {
+                if (list.CurrentPayload()->m_strName == std::string_view(&k, 1)) {
                     walked = list.CurrentPayload();
                 }
             }

@@ -73,7 +73,7 @@ TEST(GameDatabase, ReadsEveryFieldAndWritesTheSameBytes) {
               "1 Fusilier 0.1 Fusilier type / Rifle 0.2 Rifled musket");
     EXPECT_EQ(At<CTypeRecord>(db->m_Types, 1).m_Weapons.Count(), 0);
     const auto& oob = At<CAttachedOobRecord>(db->m_AttachedOobs, 0);
-    EXPECT_EQ(oob.m_strFile + " " + oob.m_strName, "north.oob North");
+    EXPECT_EQ(oob.m_strFile + " " + std::string(oob.m_strName), "north.oob North");
     EXPECT_EQ(db->m_strTemplateFile, "templates.tpl");
     for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(At<CTemplateRecord>(db->m_Templates, i).m_nOrdinal, i);

@@ -43,10 +43,10 @@ protected:
         for (CTreeWalk walk(m_tree, nullptr); !walk.Done(); walk.Step()) {
             const COobItem* item = ItemOf(m_tree, walk.Current());
             if (item->m_nType == TYPE_UNIT) {
-                out += " " + item->m_strName + "=" +
+                out += " " + std::string(item->m_strName) + "=" +
                        std::to_string(static_cast<const CUnitItem*>(item)->m_nStrength);
             } else if (item->m_nType == TYPE_SUPPLY) {
-                out += " " + item->m_strName + "=" +
+                out += " " + std::string(item->m_strName) + "=" +
                        std::to_string(static_cast<const CSupplyItem*>(item)->m_nSupply);
             }
         }

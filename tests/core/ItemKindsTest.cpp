@@ -33,7 +33,7 @@ const char* RecordName(const std::string* name) {
 std::string Fields(const COobItem& item) {
     const char* type = RecordName(item.m_pType ? &item.m_pType->m_strType : nullptr);
     const char* weapon = RecordName(item.m_pWeapon ? &item.m_pWeapon->m_strWeapon : nullptr);
-    const std::string name = "|" + item.m_strName;
+    const std::string name = "|" + std::string(item.m_strName);
     if (const auto* u = dynamic_cast<const CUnitItem*>(&item)) {
         return Format("%d %d %s %s %d %d %d", u->m_nStrength, u->m_nQuality, type, weapon,
                       u->m_nPicture, u->m_nReserved, u->m_nIcon) +
@@ -166,7 +166,7 @@ TEST_F(ItemKinds, UnknownUnitTypeIsWarnedAskedForAndAddedOnce) {
     EXPECT_EQ(m_prompts.m_questions, std::vector<std::string>{line});
     CTypeRecord* type = TypeAt(0);
     EXPECT_EQ(first->m_pType, type);
-    EXPECT_EQ(type->m_strType + "/" + type->m_strName, "Jaeger/Unit type Jaeger");
+    EXPECT_EQ(type->m_strType + "/" + std::string(type->m_strName), "Jaeger/Unit type Jaeger");
     ASSERT_NE(first->m_pBaseType, nullptr);
     EXPECT_EQ(first->m_pBaseType->ClassCode(), 2);  // the cavalry base type
     EXPECT_EQ(Text(*first), line);
@@ -202,7 +202,7 @@ TEST_F(ItemKinds, UnknownWeaponIsWarnedAndAddedAtTheHeadOfTheTypesWeapons) {
     const auto* weapon =
         static_cast<CWeaponRecord*>(unit->m_pType->m_Weapons.Head()->m_pPayload.get());
     EXPECT_EQ(unit->m_pWeapon, weapon);
-    EXPECT_EQ(weapon->m_strWeapon + "/" + weapon->m_strName, "Pike/Weapon type Pike");
+    EXPECT_EQ(weapon->m_strWeapon + "/" + std::string(weapon->m_strName), "Pike/Weapon type Pike");
     // Quality 3 on the base 2 and the type's 0.2, the new weapon adding nothing.
     EXPECT_NEAR(unit->Cost(), 10 * 5 * 2 * 1.3, 1e-9);
 }

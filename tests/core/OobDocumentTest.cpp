@@ -103,7 +103,7 @@ TEST_F(OobDocument, SaveAndLoadGiveTheSameTreeAndBytes) {
     EXPECT_EQ(m_tree.GetSelectedItem(), m_tree.GetRootItem());
     const std::string saved = m_folder / "saved.oob";
     ASSERT_EQ(m_doc.Save(saved, m_tree), RESULT_DONE);
-    EXPECT_EQ(m_doc.m_strName, saved);
+    EXPECT_EQ(std::string(m_doc.m_strName), saved);
     EXPECT_EQ(ReadBytes(saved), CrLf(kGolden));
     CTreeStore again;
     ASSERT_EQ(m_doc.LoadTree(saved, again), RESULT_DONE);
@@ -111,7 +111,7 @@ TEST_F(OobDocument, SaveAndLoadGiveTheSameTreeAndBytes) {
     EXPECT_TRUE(m_doc.m_passedOver.empty());
     EXPECT_TRUE(m_prompts.m_warnings.empty());
     EXPECT_EQ(m_doc.Save(m_folder / "missing/out.oob", m_tree), RESULT_CANNOT_WRITE);
-    EXPECT_EQ(m_doc.m_strName, saved);
+    EXPECT_EQ(std::string(m_doc.m_strName), saved);
 }
 
 class Templates : public OobDocument {
@@ -138,7 +138,7 @@ TEST_F(Templates, OrdinalChoosesTheBlock) {
     EXPECT_EQ(Insert(m_strTwoBlocks, 0, TVI_FIRST),
               "P(First Brigade(First Foot) W X Y Second Train)");
     EXPECT_EQ(Insert(m_strTwoBlocks, 2), "P(First Brigade(First Foot) W X Y Second Train)");
-    EXPECT_EQ(m_doc.m_strName, m_folder / "in.oob");  // inserting names no file
+    EXPECT_EQ(std::string(m_doc.m_strName), m_folder / "in.oob");  // inserting names no file
 }
 
 // A file without an end tag is inserted to its end; the first top-level item goes right after

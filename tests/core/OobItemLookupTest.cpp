@@ -22,7 +22,7 @@ const char* const kTarget =
     "1|Fusilier|0|Second fusilier|\n</W>\n</D>\n</E>\n\n</F>";
 
 std::string Text(const CDataObject* record) {
-    return record ? record->m_strName : "none";
+    return record ? std::string(record->m_strName) : "none";
 }
 
 TEST(OobItemLookup, EveryLookupTakesTheFirstExactMatch) {

@@ -39,9 +39,9 @@ inline std::string Shape(const CTreeStore& tree, HTREEITEM parent = TVI_ROOT) {
          previous = e, e = tree.GetNextSiblingItem(e), ++row) {
         if (e->Row() != row || tree.GetPrevSiblingItem(e) != previous ||
             tree.GetParentItem(e) != (parent == TVI_ROOT ? nullptr : parent)) {
-            return out + " <" + e->Label() + " out of place>";
+            return out + " <" + std::string(e->Label()) + " out of place>";
         }
-        out += (out.empty() ? "" : " ") + tree.GetItemText(e);
+        out += (out.empty() ? "" : " ") + std::string(tree.GetItemText(e));
         if (tree.ItemHasChildren(e)) {
             out += "(" + Shape(tree, e) + ")";
         }

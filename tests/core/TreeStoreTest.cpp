@@ -93,14 +93,16 @@ public:
             std::to_string(parent->ChildCount()));
     }
     void AfterInsert(HTREEITEM entry) override {
-        Log("after insert " + entry->Label() + " children " +
+        Log("after insert " + std::string(entry->Label()) + " children " +
             std::to_string(entry->Parent()->ChildCount()));
     }
-    void BeforeRemove(HTREEITEM entry) override { Log("before remove " + entry->Label()); }
+    void BeforeRemove(HTREEITEM entry) override {
+        Log("before remove " + std::string(entry->Label()));
+    }
     void AfterRemove() override { Log("after remove"); }
     void BeforeReset() override { Log("before reset"); }
     void AfterReset() override { Log("after reset"); }
-    void LabelChanged(HTREEITEM entry) override { Log("label " + entry->Label()); }
+    void LabelChanged(HTREEITEM entry) override { Log("label " + std::string(entry->Label())); }
     void CaretChanged(HTREEITEM entry) override { Log("caret " + Name(entry)); }
     void ExpandChanged(HTREEITEM entry) override { Log("expand " + Name(entry)); }
 
@@ -108,7 +110,9 @@ public:
 
 private:
     std::string Name(HTREEITEM entry) const {
-        return !entry ? "none" : entry == m_tree.HiddenRoot() ? "root" : entry->Label();
+        return !entry                         ? "none"
+               : entry == m_tree.HiddenRoot() ? "root"
+                                              : std::string(entry->Label());
     }
     void Log(const std::string& what) {
         m_log.push_back(what + " [" + std::to_string(m_tree.GetCount()) + "/" +

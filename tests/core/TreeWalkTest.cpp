@@ -18,7 +18,7 @@ protected:
         for (int result = 0, steps = 0; result != STEP_END && steps < 100; ++steps) {
             result = step(tree, current);
             out += (out.empty() ? "" : " ") +
-                   (result == STEP_END ? "end" : tree.GetItemText(current)) + ":" +
+                   (result == STEP_END ? "end" : std::string(tree.GetItemText(current))) + ":" +
                    std::to_string(result);
         }
         return out;
@@ -27,7 +27,7 @@ protected:
     std::string Visits(const char* start, const char* stepOverAt = "") {
         std::string out;
         for (CTreeWalk walk(tree, start ? e[start] : nullptr); !walk.Done();) {
-            const std::string& label = tree.GetItemText(walk.Current());
+            const std::string label(tree.GetItemText(walk.Current()));
             out += (out.empty() ? "" : " ") + label + "/" + std::to_string(walk.Depth());
             label == stepOverAt ? walk.StepOver() : walk.Step();
         }

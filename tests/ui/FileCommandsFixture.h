@@ -25,7 +25,7 @@ inline std::vector<std::string> Labels(const CTreeStore& tree) {
     std::vector<std::string> labels;
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
         labels.push_back(std::string(static_cast<std::size_t>(walk.Depth()), ' ') +
-                         tree.GetItemText(walk.Current()));
+                         std::string(tree.GetItemText(walk.Current())));
     }
     return labels;
 }

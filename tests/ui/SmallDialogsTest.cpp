@@ -137,7 +137,7 @@ TEST_F(AddListDlgTest, OffersTheTypesOfTheClassRangeUpToTheStopName) {
             user.Click(IDC_CHOICE_ACCEPT);
         });
         EXPECT_EQ(dlg.DoModal(), c.lines.empty() ? 0 : 1);
-        EXPECT_EQ(dlg.ChosenType() ? dlg.ChosenType()->m_strName + ";" : "",
+        EXPECT_EQ(dlg.ChosenType() ? std::string(dlg.ChosenType()->m_strName) + ";" : "",
                   c.lines.substr(0, c.lines.find(';') + 1));
     }
 }

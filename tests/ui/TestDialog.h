@@ -108,7 +108,7 @@ public:
         OnTreeRightClick(107, [this] { Log("right click"); });
         OnTreeDoubleClick(107, [this] { Log("double click"); });
         OnTreeEndLabelEdit(107, [this](HTREEITEM entry, const std::string* text) {
-            Log("end edit " + entry->Label() + (text ? " -> " + *text : " cancelled"));
+            Log("end edit " + std::string(entry->Label()) + (text ? " -> " + *text : " cancelled"));
             return text != nullptr && *text != "Refused";
         });
     }

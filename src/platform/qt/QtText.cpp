@@ -4,7 +4,7 @@
 
 #include "platform/Windows1252.h"
 
-QString ToQString(const std::string& windows1252) {
+QString ToQString(std::string_view windows1252) {
     const std::u32string text = Windows1252ToUnicode(windows1252);
     return QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size()));
 }

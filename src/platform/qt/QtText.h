@@ -5,8 +5,9 @@
 #include <QString>
 #include <QValidator>
 #include <string>
+#include <string_view>
 
-QString ToQString(const std::string& windows1252);
+QString ToQString(std::string_view windows1252);
 // False when text holds a character Windows-1252 cannot hold.
 bool FromQString(const QString& text, std::string& windows1252);
 
