@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <sstream>
 #include <string>
 
@@ -58,6 +59,28 @@ TEST(OobItemLookup, EveryLookupTakesTheFirstExactMatch) {
     EXPECT_EQ(item.FindWeapon("Sabre", fusilier), nullptr);
     EXPECT_EQ(item.FindWeapon("Musket", second), nullptr);
     EXPECT_EQ(item.FindWeapon("Musket", nullptr), nullptr);
+
+    // Kinds added after lines were looked up take part in the next lookup, in list order; a kind
+    // without a keyword claims any line no kind before it claims, whatever its first byte.
+    const auto kind = [](const char* keyword, const char* name) {
+        auto record = std::make_unique<CKindRecord>();
+        record->m_strKeyword = keyword;
+        record->m_strName = name;
+        return record;
+    };
+    db.m_Kinds.PushFront(kind("Divisio", "Pushed first"));
+    db.m_Kinds.PushBack(kind("Zed ", "Pushed last"));
+    db.m_Kinds.PushBack(kind("", "No keyword"));
+    const std::pair<const char*, const char*> afterPush[] = {
+        {"Division 3rd Division", "Pushed first"},
+        {"Zed 1", "Pushed last"},
+        {"division", "No keyword"},
+        {"Lancer 2", "Second leader kind"},
+        {"", "Pushed first"},  // an empty line agrees with the first keyword over no characters
+    };
+    for (const auto& [line, name] : afterPush) {
+        EXPECT_EQ(Text(item.FindKindForLine(line)), name) << line;
+    }
 
     CGameDatabase empty;
     for (CGameDatabase* none : {static_cast<CGameDatabase*>(nullptr), &empty}) {
