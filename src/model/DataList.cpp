@@ -86,55 +86,23 @@ void CDataList::Clear() {
     Init();
 }
 
-namespace {
-
-// Keys are a few characters long: a loop decides sooner than a call.
-bool SameKey(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (a[i] != b[i]) {
-            return false;
-        }
-    }
-    return true;
-}
-
-}  // namespace
-
-CDataList::Slot& CDataList::SlotOf(std::string_view key, std::size_t hash) {
-    const std::size_t mask = m_slots.size() - 1;
-    for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
-        Slot& slot = m_slots[i];
-        if (!slot.node || (slot.hash == hash && SameKey(slot.key, key))) {
-            return slot;
-        }
-    }
-}
-
 void CDataList::Index(CDataListNode* node, bool replace) {
     if (2 * (m_nIndexed + 1) > m_slots.size()) {
         std::vector<Slot> old(m_slots.size() < 8 ? 16 : 2 * m_slots.size());
         old.swap(m_slots);
         for (const Slot& slot : old) {
             if (slot.node) {
-                SlotOf(slot.key, slot.hash) = slot;
+                SlotOf(slot.key, Digest(slot.key)) = slot;
             }
         }
     }
     const std::string_view key = m_keyOf(*node->m_pPayload);
-    const std::size_t hash = Hash(key);
-    Slot& slot = SlotOf(key, hash);
+    const Digest digest(key);
+    Slot& slot = SlotOf(key, digest);
     if (!slot.node) {
         ++m_nIndexed;
-        slot = {hash, key, node};
+        slot = {digest.hash, digest.head, key, node};
     } else if (replace) {
-        slot = {hash, key, node};
+        slot = {digest.hash, digest.head, key, node};
     }
-}
-
-CDataObject* CDataList::FindByKey(std::string_view key) {
-    m_pCursor = m_slots.empty() ? nullptr : SlotOf(key, Hash(key)).node;
-    return CurrentPayload();
 }

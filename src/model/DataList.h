@@ -54,8 +54,12 @@ public:
     }
 
     // The first record whose key equals key, leaving the cursor on it (none when there is no
-    // such record). Only for a list made with a key.
-    CDataObject* FindByKey(std::string_view key);
+    // such record). Only for a list made with a key. Inline: the readers look up a record or two
+    // for every line they read.
+    CDataObject* FindByKey(std::string_view key) {
+        m_pCursor = m_slots.empty() ? nullptr : SlotOf(key, Digest(key)).node;
+        return CurrentPayload();
+    }
 
 private:
     int m_nCount = 0;
@@ -65,25 +69,46 @@ private:
     CDataListNode* m_pCursor = nullptr;
     KeyOf m_keyOf;
     // The index: open addressing over a power-of-two table, at most half full, each slot the
-    // key's hash, the key and the node (none: empty). Records are never taken out one by one, so
-    // slots are only ever filled or overwritten.
+    // key's digest, the key and the node (none: empty). Records are never taken out one by one,
+    // so slots are only ever filled or overwritten.
+    struct Digest {
+        // FNV-1a, a few instructions a byte for the short names that keys are. Its low bits
+        // depend only on the low bits of the bytes, so names that differ in a digit would crowd
+        // together: the slot is picked by the high half folded into them.
+        std::uint64_t hash = 14695981039346656037ULL;
+        // The first eight bytes, so that most keys compare in one step.
+        std::uint64_t head = 0;
+
+        explicit Digest(std::string_view key) {
+            for (std::size_t i = 0; i < key.size(); ++i) {
+                const auto c = static_cast<unsigned char>(key[i]);
+                hash = (hash ^ c) * 1099511628211ULL;
+                head |= i < 8 ? std::uint64_t{c} << (8 * i) : 0;
+            }
+        }
+        std::size_t Start() const { return static_cast<std::size_t>(hash ^ (hash >> 32)); }
+    };
     struct Slot {
-        std::size_t hash = 0;
+        std::uint64_t hash = 0;
+        std::uint64_t head = 0;
         std::string_view key;  // the record's own key, which does not change while indexed
         CDataListNode* node = nullptr;
     };
-    // Keys are short names: FNV-1a hashes them in a few instructions a byte. Its low bits,
-    // which pick the slot, depend only on the low bits of the bytes, so names that differ in a
-    // digit crowd together: the high half is folded into them.
-    static std::size_t Hash(std::string_view key) {
-        std::uint64_t hash = 14695981039346656037ULL;
-        for (unsigned char c : key) {
-            hash = (hash ^ c) * 1099511628211ULL;
-        }
-        return static_cast<std::size_t>(hash ^ (hash >> 32));
+    static bool Holds(const Slot& slot, std::string_view key, const Digest& digest) {
+        return slot.hash == digest.hash && slot.head == digest.head &&
+               slot.key.size() == key.size() &&
+               (key.size() <= 8 || slot.key.substr(8) == key.substr(8));
     }
     // The slot holding key, or the empty slot where it would go. The table must not be empty.
-    Slot& SlotOf(std::string_view key, std::size_t hash);
+    Slot& SlotOf(std::string_view key, const Digest& digest) {
+        const std::size_t mask = m_slots.size() - 1;
+        for (std::size_t i = digest.Start() & mask;; i = (i + 1) & mask) {
+            Slot& slot = m_slots[i];
+            if (!slot.node || Holds(slot, key, digest)) {
+                return slot;
+            }
+        }
+    }
     // Indexes node under its key; replace says whether it takes the key from an earlier record.
     void Index(CDataListNode* node, bool replace);
     std::vector<Slot> m_slots;

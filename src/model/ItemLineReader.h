@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "model/DataObject.h"
 #include "model/LineTokenizer.h"
 
 class CKindRecord;
@@ -32,8 +33,9 @@ public:
     // True when the line ended before a record name it should hold. No line can name a record
     // with an empty name, so the item could not be written back as it was read.
     bool WordMissing() const { return m_bWordMissing; }
-    // The rest of the line: the item's name, with its inner blanks.
-    std::string_view Rest() const { return m_tokenizer.RestView(); }
+    // The rest of the line: the item's name, with its inner blanks. A new name moved into the
+    // item costs less than assigning the text into the item's empty one.
+    CNameText Rest() const { return CNameText(m_tokenizer.RestView()); }
     // The normalised line, as the warnings quote it.
     std::string_view Line() const { return m_tokenizer.Line(); }
 

@@ -108,6 +108,14 @@ bool CLineTokenizer::NeedsCompacting(const char* begin, const char* end) const {
 // and every run of them between fields becomes one delimiter. Most lines need nothing more
 // than their ends trimmed and are copied whole.
 void CLineTokenizer::SetLine(std::string_view text) {
+    Take(text, false);
+}
+
+void CLineTokenizer::ViewLine(std::string_view text) {
+    Take(text, true);
+}
+
+void CLineTokenizer::Take(std::string_view text, bool view) {
     text = text.substr(0, kMaxLine);
     m_nCursor = 0;
     const char* first = text.data();
@@ -119,9 +127,14 @@ void CLineTokenizer::SetLine(std::string_view text) {
         --last;
     }
     char* const out = m_line.data();
+    m_pViewed = nullptr;
     if (!NeedsCompacting(first, last)) {
         m_nLength = static_cast<std::size_t>(last - first);
-        std::memcpy(out, first, m_nLength);
+        if (view) {
+            m_pViewed = first;
+        } else {
+            std::memcpy(out, first, m_nLength);
+        }
         return;
     }
     std::size_t length = 0;
@@ -147,7 +160,7 @@ void CLineTokenizer::SeekField(int n) {
     }
     int seen = 0;
     for (std::size_t i = 0; i < m_nLength; ++i) {
-        if (m_line[i] == m_cDelimiter && ++seen == n) {
+        if (Text()[i] == m_cDelimiter && ++seen == n) {
             m_nCursor = i + 1;
             return;
         }
@@ -156,7 +169,7 @@ void CLineTokenizer::SeekField(int n) {
 }
 
 double CLineTokenizer::ReadNumber() {
-    const char* const line = m_line.data();
+    const char* const line = Text();
     const char delimiter = m_cDelimiter;
     std::size_t i = m_nCursor;
     double sign = 1.0;
@@ -189,7 +202,7 @@ double CLineTokenizer::ReadNumber() {
 }
 
 std::string_view CLineTokenizer::ReadField() {
-    const char* const line = m_line.data();
+    const char* const line = Text();
     const std::size_t start = m_nCursor < m_nLength ? m_nCursor : m_nLength;
     std::size_t end = start;
     while (end < m_nLength && line[end] != m_cDelimiter) {

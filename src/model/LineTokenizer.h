@@ -23,8 +23,12 @@ public:
     // Must come before the first SetLine: the delimiter takes part in normalisation.
     void SetDelimiter(char delimiter);
     void SetLine(std::string_view text);
+    // SetLine without the copy when the line needs nothing but its ends trimmed: the tokenizer
+    // then reads text itself, which must stay as it is until the next SetLine or ViewLine. For a
+    // reader that holds its file's text while it takes each line apart.
+    void ViewLine(std::string_view text);
     std::string GetLine() const { return std::string(Line()); }
-    std::string_view Line() const { return std::string_view(m_line.data(), m_nLength); }
+    std::string_view Line() const { return std::string_view(Text(), m_nLength); }
 
     // The cursor is wider than a line needs so that stepping past the end never wraps back
     // to the start of the line.
@@ -37,19 +41,20 @@ public:
     // sign) read without the general number reader.
     long long ReadTruncated() {
         constexpr std::size_t kPlainDigits = 9;  // always below 2^31, so no reduction is needed
+        const char* const line = Text();
         std::size_t i = m_nCursor;
-        const bool negative = i < m_nLength && m_line[i] == '-';
+        const bool negative = i < m_nLength && line[i] == '-';
         i += negative ? 1 : 0;
         long long value = 0;
         const std::size_t limit = i + kPlainDigits < m_nLength ? i + kPlainDigits : m_nLength;
         for (; i < limit; ++i) {
-            const unsigned digit = static_cast<unsigned char>(m_line[i]) - unsigned{'0'};
-            if (digit > 9 || m_line[i] == m_cDelimiter) {
+            const unsigned digit = static_cast<unsigned char>(line[i]) - unsigned{'0'};
+            if (digit > 9 || line[i] == m_cDelimiter) {
                 break;
             }
             value = value * 10 + digit;
         }
-        if (i < m_nLength && m_line[i] != m_cDelimiter) {
+        if (i < m_nLength && line[i] != m_cDelimiter) {
             return TruncateToInteger(ReadNumber());
         }
         m_nCursor = i;
@@ -77,6 +82,8 @@ public:
     }
 
 private:
+    void Take(std::string_view text, bool view);
+    const char* Text() const { return m_pViewed ? m_pViewed : m_line.data(); }
     bool AtEnd() const { return m_nCursor >= m_nLength; }
     bool IsSeparator(char c) const { return m_bSeparator[static_cast<unsigned char>(c)]; }
     // True when text holds a tab or two delimiters in a row, which compacting would change.
@@ -84,6 +91,7 @@ private:
 
     // The normalised line: a fixed buffer, so that setting a line never allocates.
     std::array<char, kMaxLine> m_line;
+    const char* m_pViewed = nullptr;  // the caller's text, when ViewLine took it as it is
     std::size_t m_nLength = 0;
     std::size_t m_nCursor = 0;
     char m_cDelimiter = '\0';

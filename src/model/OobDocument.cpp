@@ -160,7 +160,8 @@ std::int16_t COobDocument::ReadLineText(const std::string& text, CTreeStore& tre
 std::int16_t COobDocument::ReadRawLine(std::string_view raw, CTreeStore& tree,
                                        COobReaderState& state, bool templateEnds) {
     ++m_nLineNumber;
-    m_tokenizer.SetLine(raw);
+    // raw stays as it is until the line has been read.
+    m_tokenizer.ViewLine(raw);
     if (templateEnds && m_tokenizer.Line() == "</T>") {
         return READ_TEMPLATE;
     }

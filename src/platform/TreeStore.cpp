@@ -39,19 +39,18 @@ std::string_view CTreeEntry::Label() const {
 }
 
 HTREEITEM CTreeStore::InsertItem(std::string label, HTREEITEM parent, HTREEITEM insertAfter) {
-    auto entry = std::make_unique<CTreeEntry>();
-    entry->m_pLabel = std::make_unique<std::string>(std::move(label));
-    return Insert(std::move(entry), parent, insertAfter);
+    return Insert(std::make_unique<std::string>(std::move(label)), nullptr, parent, insertAfter);
 }
 
 HTREEITEM CTreeStore::InsertItem(std::unique_ptr<CTreeItemData> data, HTREEITEM parent,
                                  HTREEITEM insertAfter) {
-    auto entry = std::make_unique<CTreeEntry>();
-    entry->m_pData = std::move(data);
-    return Insert(std::move(entry), parent, insertAfter);
+    return Insert(nullptr, std::move(data), parent, insertAfter);
 }
 
-HTREEITEM CTreeStore::Insert(std::unique_ptr<CTreeEntry> entry, HTREEITEM parent,
+// The entry is made here, in its place among the children, rather than handed in: a file read
+// in inserts a million of them.
+HTREEITEM CTreeStore::Insert(std::unique_ptr<std::string> label,
+                             std::unique_ptr<CTreeItemData> data, HTREEITEM parent,
                              HTREEITEM insertAfter) {
     if (parent == TVI_FIRST || parent == TVI_LAST) {
         return nullptr;
@@ -64,9 +63,6 @@ HTREEITEM CTreeStore::Insert(std::unique_ptr<CTreeEntry> entry, HTREEITEM parent
                insertAfter->m_pParent == &owner) {
         row = insertAfter->m_nRow + 1;
     }
-    entry->m_pParent = &owner;
-    entry->m_nRow = static_cast<std::uint32_t>(row);
-    HTREEITEM handle = entry.get();
     if (CTreeObserver* observer = Told()) {
         observer->BeforeInsert(&owner, row);
     }
@@ -75,20 +71,22 @@ HTREEITEM CTreeStore::Insert(std::unique_ptr<CTreeEntry> entry, HTREEITEM parent
         owner.m_children.reserve(8);
     }
     // A file read in appends every entry: that takes no shifting.
-    if (row == owner.m_children.size()) {
-        owner.m_children.push_back(std::move(entry));
-    } else {
-        owner.m_children.insert(owner.m_children.begin() + static_cast<std::ptrdiff_t>(row),
-                                std::move(entry));
-    }
+    const auto at = owner.m_children.begin() + static_cast<std::ptrdiff_t>(row);
+    CTreeEntry& entry = *(row == owner.m_children.size()
+                              ? owner.m_children.emplace_back(std::make_unique<CTreeEntry>())
+                              : *owner.m_children.insert(at, std::make_unique<CTreeEntry>()));
+    entry.m_pLabel = std::move(label);
+    entry.m_pData = std::move(data);
+    entry.m_pParent = &owner;
+    entry.m_nRow = static_cast<std::uint32_t>(row);
     if (row + 1 < owner.m_children.size()) {
         Renumber(owner, row + 1);
     }
     ++m_nCount;
     if (CTreeObserver* observer = Told()) {
-        observer->AfterInsert(handle);
+        observer->AfterInsert(&entry);
     }
-    return handle;
+    return &entry;
 }
 
 void CTreeStore::SetItemText(HTREEITEM entry, std::string label) {

@@ -140,7 +140,8 @@ public:
 
 private:
     HTREEITEM Resolve(HTREEITEM parent) const;
-    HTREEITEM Insert(std::unique_ptr<CTreeEntry> entry, HTREEITEM parent, HTREEITEM insertAfter);
+    HTREEITEM Insert(std::unique_ptr<std::string> label, std::unique_ptr<CTreeItemData> data,
+                     HTREEITEM parent, HTREEITEM insertAfter);
     static void Renumber(CTreeEntry& parent, std::size_t from);
     std::size_t DestroyChildren(CTreeEntry& entry);
 
