@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -72,21 +73,25 @@ private:
     // key's digest, the key and the node (none: empty). Records are never taken out one by one,
     // so slots are only ever filled or overwritten.
     struct Digest {
-        // FNV-1a, a few instructions a byte for the short names that keys are. Its low bits
-        // depend only on the low bits of the bytes, so names that differ in a digit would crowd
-        // together: the slot is picked by the high half folded into them.
-        std::uint64_t hash = 14695981039346656037ULL;
         // The first eight bytes, so that most keys compare in one step.
         std::uint64_t head = 0;
+        std::uint64_t hash = 0;
 
         explicit Digest(std::string_view key) {
-            for (std::size_t i = 0; i < key.size(); ++i) {
-                const auto c = static_cast<unsigned char>(key[i]);
-                hash = (hash ^ c) * 1099511628211ULL;
-                head |= i < 8 ? std::uint64_t{c} << (8 * i) : 0;
+            const std::size_t n = key.size();
+            if (n != 0) {  // an empty view may have no data at all
+                std::memcpy(&head, key.data(), n < 8 ? n : 8);
             }
+            // A multiplicative mix of the head and the length; the bytes after the eighth, rare
+            // in a name, are added FNV-1a style.
+            std::uint64_t h = (head ^ n) * 0x9E3779B97F4A7C15ULL;
+            for (std::size_t i = 8; i < n; ++i) {
+                h = (h ^ static_cast<unsigned char>(key[i])) * 1099511628211ULL;
+            }
+            hash = h;
         }
-        std::size_t Start() const { return static_cast<std::size_t>(hash ^ (hash >> 32)); }
+        // The high bits are the best mixed: the slot is picked by them.
+        std::size_t Start() const { return static_cast<std::size_t>(hash >> 32); }
     };
     struct Slot {
         std::uint64_t hash = 0;

@@ -70,11 +70,15 @@ HTREEITEM CTreeStore::Insert(std::unique_ptr<std::string> label,
     if (owner.m_children.empty()) {
         owner.m_children.reserve(8);
     }
+    // Room first, so that the entry is owned from the moment it exists.
+    if (owner.m_children.size() == owner.m_children.capacity()) {
+        owner.m_children.reserve(2 * owner.m_children.size());
+    }
     // A file read in appends every entry: that takes no shifting.
     const auto at = owner.m_children.begin() + static_cast<std::ptrdiff_t>(row);
-    CTreeEntry& entry = *(row == owner.m_children.size()
-                              ? owner.m_children.emplace_back(std::make_unique<CTreeEntry>())
-                              : *owner.m_children.insert(at, std::make_unique<CTreeEntry>()));
+    CTreeEntry& entry =
+        *(row == owner.m_children.size() ? owner.m_children.emplace_back(new CTreeEntry)
+                                         : *owner.m_children.emplace(at, new CTreeEntry));
     entry.m_pLabel = std::move(label);
     entry.m_pData = std::move(data);
     entry.m_pParent = &owner;
