@@ -24,7 +24,28 @@ TEST(LineTokenizer, NormalisesSeparatorRunsAndEnds) {
     };
     for (const auto& [delimiter, line, normalised] : cases) {
         EXPECT_EQ(Tokenize(delimiter, line).GetLine(), normalised) << line;
+        CLineTokenizer viewing;
+        viewing.SetDelimiter(delimiter);
+        viewing.ViewLine(line);
+        EXPECT_EQ(viewing.GetLine(), normalised) << line;
     }
+}
+
+// A viewed line that needs only its ends trimmed is read where the caller holds it; one that
+// needs compacting is the tokenizer's own copy, and a later SetLine is never a view.
+TEST(LineTokenizer, ViewsOnlyACleanLine) {
+    CLineTokenizer t;
+    t.SetDelimiter(' ');
+    const std::string clean = "\t\tU 12 3 T1 W1 Name";
+    t.ViewLine(clean);
+    EXPECT_EQ(t.Line().data(), clean.data() + 2);
+    const std::string spaced = "U  12 3";
+    t.ViewLine(spaced);
+    EXPECT_EQ(t.Line(), "U 12 3");
+    EXPECT_NE(t.Line().data(), spaced.data());
+    t.SetLine(clean);
+    EXPECT_NE(t.Line().data(), clean.data() + 2);
+    EXPECT_EQ(t.Line(), "U 12 3 T1 W1 Name");
 }
 
 // Lines of every length up to past two vector widths, with the one tab or doubled delimiter at
