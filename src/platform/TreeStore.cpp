@@ -66,13 +66,10 @@ HTREEITEM CTreeStore::Insert(std::unique_ptr<std::string> label,
     if (CTreeObserver* observer = Told()) {
         observer->BeforeInsert(&owner, row);
     }
-    // A parent's first child brings room for a few more: most echelons hold several.
-    if (owner.m_children.empty()) {
-        owner.m_children.reserve(8);
-    }
-    // Room first, so that the entry is owned from the moment it exists.
+    // Room first, so that the entry is owned from the moment it exists. A parent's first child
+    // brings room for a few more: most echelons hold several.
     if (owner.m_children.size() == owner.m_children.capacity()) {
-        owner.m_children.reserve(2 * owner.m_children.size());
+        owner.m_children.reserve(owner.m_children.empty() ? 8 : 2 * owner.m_children.size());
     }
     // A file read in appends every entry: that takes no shifting.
     const auto at = owner.m_children.begin() + static_cast<std::ptrdiff_t>(row);
