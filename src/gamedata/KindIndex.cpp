@@ -1,24 +1,5 @@
 #include "gamedata/KindIndex.h"
 
-#include "gamedata/GameRecords.h"
-#include "model/DataList.h"
-#include "model/LineTokenizer.h"
-
-CKindRecord* CKindIndex::Find(const CDataList& kinds, std::string_view line) {
-    if (m_nRevision != kinds.Revision()) {
-        Rebuild(kinds);
-    }
-    if (line.empty()) {
-        return m_pFirst;
-    }
-    for (CKindRecord* kind : m_groups[static_cast<unsigned char>(line.front())]) {
-        if (CLineTokenizer::PrefixMatches(line, kind->m_strKeyword)) {
-            return kind;
-        }
-    }
-    return nullptr;
-}
-
 void CKindIndex::Rebuild(const CDataList& kinds) {
     for (auto& group : m_groups) {
         group.clear();

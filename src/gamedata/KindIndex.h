@@ -8,14 +8,28 @@
 #include <string_view>
 #include <vector>
 
-class CDataList;
-class CKindRecord;
+#include "gamedata/GameRecords.h"
+#include "model/DataList.h"
+#include "model/LineTokenizer.h"
 
 class CKindIndex {
 public:
     // The first kind of kinds, in its order, whose keyword begins line (the two agree over the
-    // shorter of their lengths).
-    CKindRecord* Find(const CDataList& kinds, std::string_view line);
+    // shorter of their lengths). Inline: it runs for every line of an order of battle.
+    CKindRecord* Find(const CDataList& kinds, std::string_view line) {
+        if (m_nRevision != kinds.Revision()) {
+            Rebuild(kinds);
+        }
+        if (line.empty()) {
+            return m_pFirst;
+        }
+        for (CKindRecord* kind : m_groups[static_cast<unsigned char>(line.front())]) {
+            if (CLineTokenizer::PrefixMatches(line, kind->m_strKeyword)) {
+                return kind;
+            }
+        }
+        return nullptr;
+    }
 
 private:
     void Rebuild(const CDataList& kinds);

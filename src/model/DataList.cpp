@@ -5,6 +5,7 @@ void CDataList::Init() {
     m_nCount = 0;
     m_pHead = m_pTail = m_pCursor = nullptr;
     m_slots.clear();
+    m_nMask = 0;
     m_nIndexed = 0;
 }
 
@@ -86,10 +87,15 @@ void CDataList::Clear() {
     Init();
 }
 
+bool CDataList::TailsEqual(std::string_view a, std::string_view b) {
+    return a.substr(8) == b.substr(8);
+}
+
 void CDataList::Index(CDataListNode* node, bool replace) {
     if (2 * (m_nIndexed + 1) > m_slots.size()) {
         std::vector<Slot> old(m_slots.size() < 8 ? 16 : 2 * m_slots.size());
         old.swap(m_slots);
+        m_nMask = m_slots.size() - 1;
         for (const Slot& slot : old) {
             if (slot.node) {
                 SlotOf(slot.key, Digest(slot.key)) = slot;

@@ -2,6 +2,7 @@
 // the first match wins.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <memory>
@@ -77,11 +78,8 @@ private:
         std::uint64_t head = 0;
         std::uint64_t hash = 0;
 
-        explicit Digest(std::string_view key) {
+        explicit Digest(std::string_view key) : head(HeadOf(key.data(), key.size())) {
             const std::size_t n = key.size();
-            if (n != 0) {  // an empty view may have no data at all
-                std::memcpy(&head, key.data(), n < 8 ? n : 8);
-            }
             // A multiplicative mix of the head and the length; the bytes after the eighth, rare
             // in a name, are added FNV-1a style.
             std::uint64_t h = (head ^ n) * 0x9E3779B97F4A7C15ULL;
@@ -89,6 +87,35 @@ private:
                 h = (h ^ static_cast<unsigned char>(key[i])) * 1099511628211ULL;
             }
             hash = h;
+        }
+        // The first min(n, 8) bytes of p, the first in the lowest byte, zeros above them. Two
+        // or three loads that may overlap, rather than a copy of a variable length: a short key
+        // is read in a few instructions.
+        static std::uint64_t HeadOf(const char* p, std::size_t n) {
+            if (n >= 8) {
+                return Little<std::uint64_t>(p);
+            }
+            if (n >= 4) {
+                return Little<std::uint32_t>(p) |
+                       (std::uint64_t{Little<std::uint32_t>(p + n - 4)} << (8 * (n - 4)));
+            }
+            if (n == 0) {  // an empty view may have no data at all
+                return 0;
+            }
+            return Byte(p, 0) | Byte(p, n / 2) | Byte(p, n - 1);
+        }
+        // Byte at of p, in its place of a little-endian word.
+        static std::uint64_t Byte(const char* p, std::size_t at) {
+            return std::uint64_t{static_cast<unsigned char>(p[at])} << (8 * at);
+        }
+        template <typename Word>
+        static Word Little(const char* p) {
+            Word word;
+            std::memcpy(&word, p, sizeof word);
+            if constexpr (std::endian::native == std::endian::big) {
+                word = sizeof word == 8 ? __builtin_bswap64(word) : __builtin_bswap32(word);
+            }
+            return word;
         }
         // The high bits are the best mixed: the slot is picked by them.
         std::size_t Start() const { return static_cast<std::size_t>(hash >> 32); }
@@ -101,13 +128,13 @@ private:
     };
     static bool Holds(const Slot& slot, std::string_view key, const Digest& digest) {
         return slot.hash == digest.hash && slot.head == digest.head &&
-               slot.key.size() == key.size() &&
-               (key.size() <= 8 || slot.key.substr(8) == key.substr(8));
+               slot.key.size() == key.size() && (key.size() <= 8 || TailsEqual(slot.key, key));
     }
+    // Out of line: the call it makes would cost every lookup the registers it saves.
+    static bool TailsEqual(std::string_view a, std::string_view b);
     // The slot holding key, or the empty slot where it would go. The table must not be empty.
     Slot& SlotOf(std::string_view key, const Digest& digest) {
-        const std::size_t mask = m_slots.size() - 1;
-        for (std::size_t i = digest.Start() & mask;; i = (i + 1) & mask) {
+        for (std::size_t i = digest.Start() & m_nMask;; i = (i + 1) & m_nMask) {
             Slot& slot = m_slots[i];
             if (!slot.node || Holds(slot, key, digest)) {
                 return slot;
@@ -117,5 +144,6 @@ private:
     // Indexes node under its key; replace says whether it takes the key from an earlier record.
     void Index(CDataListNode* node, bool replace);
     std::vector<Slot> m_slots;
+    std::size_t m_nMask = 0;  // the table's size less one, kept to spare a division a lookup
     std::size_t m_nIndexed = 0;
 };

@@ -22,6 +22,7 @@ public:
 
     // Must come before the first SetLine: the delimiter takes part in normalisation.
     void SetDelimiter(char delimiter);
+    char Delimiter() const { return m_cDelimiter; }
     void SetLine(std::string_view text);
     // SetLine without the copy when the line needs nothing but its ends trimmed: the tokenizer
     // then reads text itself, which must stay as it is until the next SetLine or ViewLine. For a
@@ -37,29 +38,6 @@ public:
     void SeekField(int n);
 
     double ReadNumber();
-    // TruncateToInteger(ReadNumber()), with the common field (a few digits, perhaps a minus
-    // sign) read without the general number reader.
-    long long ReadTruncated() {
-        constexpr std::size_t kPlainDigits = 9;  // always below 2^31, so no reduction is needed
-        const char* const line = Text();
-        std::size_t i = m_nCursor;
-        const bool negative = i < m_nLength && line[i] == '-';
-        i += negative ? 1 : 0;
-        long long value = 0;
-        const std::size_t limit = i + kPlainDigits < m_nLength ? i + kPlainDigits : m_nLength;
-        for (; i < limit; ++i) {
-            const unsigned digit = static_cast<unsigned char>(line[i]) - unsigned{'0'};
-            if (digit > 9 || line[i] == m_cDelimiter) {
-                break;
-            }
-            value = value * 10 + digit;
-        }
-        if (i < m_nLength && line[i] != m_cDelimiter) {
-            return TruncateToInteger(ReadNumber());
-        }
-        m_nCursor = i;
-        return negative ? -value : value;
-    }
     std::string ReadString() { return std::string(ReadField()); }
     std::string ReadRest() { return std::string(RestView()); }
     bool MatchesPrefix(std::string_view text) const { return PrefixMatches(Line(), text); }

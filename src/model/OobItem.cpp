@@ -73,20 +73,6 @@ CBaseTypeRecord* COobItem::FindBaseType(const CTypeRecord* type) {
     return nullptr;
 }
 
-CTypeRecord* COobItem::FindType(std::string_view name) {
-    if (!m_pDatabase) {
-        return nullptr;
-    }
-    return static_cast<CTypeRecord*>(m_pDatabase->m_Types.FindByKey(name));
-}
-
-CWeaponRecord* COobItem::FindWeapon(std::string_view name, CTypeRecord* type) {
-    if (!type) {
-        return nullptr;
-    }
-    return static_cast<CWeaponRecord*>(type->m_Weapons.FindByKey(name));
-}
-
 CKindRecord* COobItem::FindKindForLine(const std::string& line) {
     CLineTokenizer tokenizer;
     tokenizer.SetDelimiter(' ');
@@ -96,10 +82,6 @@ CKindRecord* COobItem::FindKindForLine(const std::string& line) {
 
 CKindRecord* COobItem::FindKindForNormalisedLine(std::string_view line) {
     return FindKindInLine(m_pDatabase, line);
-}
-
-CKindRecord* FindKindInLine(CGameDatabase* database, std::string_view line) {
-    return database ? database->FindKindForLine(line) : nullptr;
 }
 
 namespace {

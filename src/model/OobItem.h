@@ -8,15 +8,12 @@
 #include <string>
 #include <string_view>
 
+#include "gamedata/GameDatabase.h"
+#include "gamedata/GameRecords.h"
 #include "model/DataObject.h"
 #include "platform/SmallObjectPool.h"
 #include "platform/TreeStore.h"
 
-class CGameDatabase;
-class CKindRecord;
-class CBaseTypeRecord;
-class CTypeRecord;
-class CWeaponRecord;
 class CItemLineReader;
 
 // ToHtml flags.
@@ -51,9 +48,16 @@ public:
                              int measure) const;
     virtual CKindRecord* FindKindByKeyword(std::string_view text);
     virtual CKindRecord* FindKindByType(std::uint8_t code);
-    virtual CBaseTypeRecord* FindBaseType(const CTypeRecord* type);
-    virtual CTypeRecord* FindType(std::string_view name);
-    virtual CWeaponRecord* FindWeapon(std::string_view name, CTypeRecord* type);
+    CBaseTypeRecord* FindBaseType(const CTypeRecord* type);
+    // The first type of the database, and the first weapon of type, named name. Inline: every
+    // unit line read looks up both.
+    CTypeRecord* FindType(std::string_view name) {
+        return m_pDatabase ? static_cast<CTypeRecord*>(m_pDatabase->m_Types.FindByKey(name))
+                           : nullptr;
+    }
+    CWeaponRecord* FindWeapon(std::string_view name, CTypeRecord* type) {
+        return type ? static_cast<CWeaponRecord*>(type->m_Weapons.FindByKey(name)) : nullptr;
+    }
 
     // The first kind, in the database's order, whose keyword begins line.
     CKindRecord* FindKindForLine(const std::string& line);
@@ -83,7 +87,9 @@ protected:
 };
 
 // The first kind of database, in its order, whose keyword begins the normalised line.
-CKindRecord* FindKindInLine(CGameDatabase* database, std::string_view line);
+inline CKindRecord* FindKindInLine(CGameDatabase* database, std::string_view line) {
+    return database ? database->FindKindForLine(line) : nullptr;
+}
 
 // The item an entry of the order-of-battle tree holds.
 inline COobItem* ItemOf(const CTreeStore& tree, HTREEITEM entry) {

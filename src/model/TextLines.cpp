@@ -26,13 +26,6 @@ LineRead ReadTextLine(std::istream& in, std::string& line) {
     return terminated ? LineRead::Line : LineRead::LastLine;
 }
 
-std::string_view TrimLine(std::string_view line) {
-    if (!line.empty() && line.back() == '\r') {
-        line.remove_suffix(1);
-    }
-    return line.substr(0, kMaxLineLength);
-}
-
 bool OpenToRead(const std::string& path, std::ifstream& in) {
     std::error_code error;
     if (std::filesystem::is_directory(path, error)) {

@@ -21,8 +21,14 @@ enum class LineRead {
 LineRead ReadTextLine(std::istream& in, std::string& line);
 
 // A line taken from a whole file's text, without its line feed, made what ReadTextLine gives:
-// one carriage return at its end dropped, cut at kMaxLineLength.
-std::string_view TrimLine(std::string_view line);
+// one carriage return at its end dropped, cut at kMaxLineLength. Inline: a file read in calls
+// it for every line.
+inline std::string_view TrimLine(std::string_view line) {
+    if (!line.empty() && line.back() == '\r') {
+        line.remove_suffix(1);
+    }
+    return line.substr(0, kMaxLineLength);
+}
 
 // Opens path to be read in binary; false when it does not open or is a folder, which the stream
 // library would open and read as an empty file.

@@ -39,18 +39,15 @@ std::string_view CTreeEntry::Label() const {
 }
 
 HTREEITEM CTreeStore::InsertItem(std::string label, HTREEITEM parent, HTREEITEM insertAfter) {
-    return Insert(std::make_unique<std::string>(std::move(label)), nullptr, parent, insertAfter);
-}
-
-HTREEITEM CTreeStore::InsertItem(std::unique_ptr<CTreeItemData> data, HTREEITEM parent,
-                                 HTREEITEM insertAfter) {
-    return Insert(nullptr, std::move(data), parent, insertAfter);
+    auto text = std::make_unique<std::string>(std::move(label));
+    std::unique_ptr<CTreeItemData> noData;
+    return Insert(text, noData, parent, insertAfter);
 }
 
 // The entry is made here, in its place among the children, rather than handed in: a file read
 // in inserts a million of them.
-HTREEITEM CTreeStore::Insert(std::unique_ptr<std::string> label,
-                             std::unique_ptr<CTreeItemData> data, HTREEITEM parent,
+HTREEITEM CTreeStore::Insert(std::unique_ptr<std::string>& label,
+                             std::unique_ptr<CTreeItemData>& data, HTREEITEM parent,
                              HTREEITEM insertAfter) {
     if (parent == TVI_FIRST || parent == TVI_LAST) {
         return nullptr;

@@ -87,8 +87,11 @@ public:
     HTREEITEM InsertItem(std::string label, HTREEITEM parent = TVI_ROOT,
                          HTREEITEM insertAfter = TVI_LAST);
     // The same for an entry that holds data from the start and shows the data's label.
-    HTREEITEM InsertItem(std::unique_ptr<CTreeItemData> data, HTREEITEM parent = TVI_ROOT,
-                         HTREEITEM insertAfter = TVI_LAST);
+    HTREEITEM InsertItem(std::unique_ptr<CTreeItemData>&& data, HTREEITEM parent = TVI_ROOT,
+                         HTREEITEM insertAfter = TVI_LAST) {
+        std::unique_ptr<std::string> noLabel;
+        return Insert(noLabel, data, parent, insertAfter);
+    }
 
     void SetItemText(HTREEITEM entry, std::string label);
     void SetItemData(HTREEITEM entry, std::unique_ptr<CTreeItemData> data);
@@ -140,7 +143,10 @@ public:
 
 private:
     HTREEITEM Resolve(HTREEITEM parent) const;
-    HTREEITEM Insert(std::unique_ptr<std::string> label, std::unique_ptr<CTreeItemData> data,
+    // Takes label and data only when it makes the entry. By reference rather than by value: a
+    // file read in inserts a million entries, and each owner passed by value is a temporary
+    // to make and destroy.
+    HTREEITEM Insert(std::unique_ptr<std::string>& label, std::unique_ptr<CTreeItemData>& data,
                      HTREEITEM parent, HTREEITEM insertAfter);
     static void Renumber(CTreeEntry& parent, std::size_t from);
     std::size_t DestroyChildren(CTreeEntry& entry);
