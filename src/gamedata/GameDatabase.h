@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "gamedata/BaseTypeIndex.h"
 #include "gamedata/KindIndex.h"
 #include "model/DataList.h"
 #include "model/DataObject.h"
@@ -57,6 +58,10 @@ public:
 
     // The first kind, in the list's order, whose keyword begins the normalised line.
     CKindRecord* FindKindForLine(std::string_view line) { return m_KindIndex.Find(m_Kinds, line); }
+    // The first base type, in the list's order, of class classCode.
+    CBaseTypeRecord* FindBaseTypeOfClass(std::uint8_t classCode) {
+        return m_BaseTypeIndex.Find(m_BaseTypes, classCode);
+    }
 
     // Who answers the questions the item readers ask about unknown records (none: no message,
     // and new unit types are infantry). Not owned.
@@ -64,4 +69,5 @@ public:
 
 private:
     CKindIndex m_KindIndex;
+    CBaseTypeIndex m_BaseTypeIndex;
 };

@@ -1,8 +1,13 @@
 #include "model/LineTokenizer.h"
 
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 long long TruncateToInteger(double value) {
     if (value > -2147483648.0 && value < 2147483648.0) {
@@ -56,12 +61,21 @@ Bytes16 Load16(const char* p) {
     return bytes;
 }
 
+// Bit i set when byte i of a comparison's result is set (each byte is all ones or zero).
 template <typename Mask>
-bool AnySet(Mask mask) {
-    std::uint64_t halves[2];
-    static_assert(sizeof mask == sizeof halves);
-    std::memcpy(halves, &mask, sizeof halves);
-    return (halves[0] | halves[1]) != 0;
+unsigned BitsOf(Mask mask) {
+    static_assert(sizeof mask == 16);
+#if defined(__SSE2__)
+    return static_cast<unsigned>(_mm_movemask_epi8(std::bit_cast<__m128i>(mask)));
+#else
+    unsigned char bytes[16];
+    std::memcpy(bytes, &mask, sizeof bytes);
+    unsigned bits = 0;
+    for (unsigned i = 0; i < 16; ++i) {
+        bits |= (bytes[i] & 1u) << i;
+    }
+    return bits;
+#endif
 }
 
 }  // namespace
@@ -93,8 +107,8 @@ bool CLineTokenizer::NeedsCompacting(const char* begin, const char* end) const {
     const Bytes16 delimiters16 = Bytes16{} + static_cast<unsigned char>(m_cDelimiter);
     const auto check16 = [&](const char* p) {
         const Bytes16 here = Load16(p);
-        return AnySet((here == tabs16) |
-                      ((here == delimiters16) & (Load16(p + 1) == delimiters16)));
+        return BitsOf((here == tabs16) |
+                      ((here == delimiters16) & (Load16(p + 1) == delimiters16))) != 0;
     };
     for (const char* p = begin; end - p >= 17; p += 16) {
         if (check16(p)) {
@@ -120,6 +134,17 @@ void CLineTokenizer::Take(std::string_view text, bool view) {
     m_nCursor = 0;
     const char* first = text.data();
     const char* last = first + text.size();
+    // Indentation: sixteen bytes a step while that many are left.
+    const Bytes16 tabs16 = Bytes16{} + static_cast<unsigned char>('\t');
+    const Bytes16 delimiters16 = Bytes16{} + static_cast<unsigned char>(m_cDelimiter);
+    for (; last - first >= 16; first += 16) {
+        const Bytes16 here = Load16(first);
+        const unsigned kept = ~BitsOf((here == tabs16) | (here == delimiters16)) & 0xFFFFu;
+        if (kept != 0) {
+            first += std::countr_zero(kept);
+            break;
+        }
+    }
     while (first < last && IsSeparator(*first)) {
         ++first;
     }

@@ -58,21 +58,6 @@ CKindRecord* COobItem::FindKindByType(std::uint8_t code) {
     return nullptr;
 }
 
-CBaseTypeRecord* COobItem::FindBaseType(const CTypeRecord* type) {
-    if (!m_pDatabase || !type) {
-        return nullptr;
-    }
-    // Walked by the nodes rather than the list's cursor: this runs for every line read.
-    const auto classCode = type->ClassCode();
-    for (CDataListNode* n = m_pDatabase->m_BaseTypes.Head(); n; n = n->m_pNext) {
-        auto* base = static_cast<CBaseTypeRecord*>(n->m_pPayload.get());
-        if (base->ClassCode() == classCode) {
-            return base;
-        }
-    }
-    return nullptr;
-}
-
 CKindRecord* COobItem::FindKindForLine(const std::string& line) {
     CLineTokenizer tokenizer;
     tokenizer.SetDelimiter(' ');

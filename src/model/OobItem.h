@@ -48,9 +48,11 @@ public:
                              int measure) const;
     virtual CKindRecord* FindKindByKeyword(std::string_view text);
     virtual CKindRecord* FindKindByType(std::uint8_t code);
-    CBaseTypeRecord* FindBaseType(const CTypeRecord* type);
-    // The first type of the database, and the first weapon of type, named name. Inline: every
-    // unit line read looks up both.
+    // The first base type of the database of type's class; the first type of the database, and
+    // the first weapon of type, named name. Inline: every unit line read looks up all three.
+    CBaseTypeRecord* FindBaseType(const CTypeRecord* type) {
+        return m_pDatabase && type ? m_pDatabase->FindBaseTypeOfClass(type->ClassCode()) : nullptr;
+    }
     CTypeRecord* FindType(std::string_view name) {
         return m_pDatabase ? static_cast<CTypeRecord*>(m_pDatabase->m_Types.FindByKey(name))
                            : nullptr;

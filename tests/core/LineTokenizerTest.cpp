@@ -65,6 +65,22 @@ TEST(LineTokenizer, FindsASeparatorRunAtAnyPositionOfAnyLength) {
     }
 }
 
+// Indentation of every depth up to past two vector widths, of tabs and blanks mixed, before
+// lines short and long: the first field starts where the indentation ends, whichever step of
+// the search that falls in.
+TEST(LineTokenizer, DropsIndentationOfAnyDepth) {
+    for (std::size_t depth = 0; depth <= 40; ++depth) {
+        for (const std::string text :
+             {"U", "L 4 4 0 Name", "S 6 1 A supply column of some length"}) {
+            std::string line;
+            for (std::size_t i = 0; i < depth; ++i) {
+                line += i % 3 == 1 ? ' ' : '\t';
+            }
+            EXPECT_EQ(Tokenize(' ', line + text).GetLine(), text) << depth << " " << text;
+        }
+    }
+}
+
 TEST(LineTokenizer, ReadsFieldsAfterSeekAndStopsOnTheDelimiter) {
     CLineTokenizer t = Tokenize(' ', "  word   12\t\t3  ");
     t.SeekField(1);

@@ -82,6 +82,21 @@ TEST(OobItemLookup, EveryLookupTakesTheFirstExactMatch) {
         EXPECT_EQ(Text(item.FindKindForLine(line)), name) << line;
     }
 
+    // Base types likewise: one pushed to the front is now its class's first; one of a class
+    // no base type had is found at once.
+    const auto base = [](std::uint8_t code, const char* name) {
+        auto record = std::make_unique<CBaseTypeRecord>();
+        record->m_nCode = code;
+        record->m_strName = name;
+        return record;
+    };
+    auto hussar = std::make_unique<CTypeRecord>();
+    hussar->m_nCode = 3;
+    db.m_BaseTypes.PushFront(base(1, "Front foot"));
+    db.m_BaseTypes.PushBack(base(3, "Guns"));
+    EXPECT_EQ(Text(item.FindBaseType(fusilier)), "Front foot");
+    EXPECT_EQ(Text(item.FindBaseType(hussar.get())), "Guns");
+
     CGameDatabase empty;
     for (CGameDatabase* none : {static_cast<CGameDatabase*>(nullptr), &empty}) {
         item.m_pDatabase = none;
