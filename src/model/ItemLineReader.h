@@ -27,30 +27,26 @@ public:
     // reader keeps its place in registers where the tokenizer would go through memory.
     template <typename Int>
     Int Number() {
-        constexpr std::size_t kPlainDigits = 9;  // always below 2^31, so no reduction is needed
         std::size_t i = m_nAt;
         const bool negative = i < m_nLength && m_pLine[i] == '-';
         i += negative ? 1 : 0;
-        long long value = 0;
-        const std::size_t limit = i + kPlainDigits < m_nLength ? i + kPlainDigits : m_nLength;
-        for (; i < limit; ++i) {
-            const unsigned digit = static_cast<unsigned char>(m_pLine[i]) - unsigned{'0'};
-            if (digit > 9) {
-                break;
-            }
+        const std::size_t digitsStart = i;
+        unsigned long long value = 0;
+        for (unsigned digit; i < m_nLength && (digit = Digit(m_pLine[i])) <= 9; ++i) {
             value = value * 10 + digit;
         }
-        // Anything else before the delimiter (a full stop, a letter, a long number), or a digit
-        // for a delimiter, goes to the tokenizer's general reader.
-        if ((i < m_nLength && m_pLine[i] != m_cDelimiter) || m_bDigitDelimiter) {
+        // Anything else before the delimiter (a full stop, a letter), a number too long to be
+        // sure of, or a digit for a delimiter, goes to the tokenizer's general reader.
+        if (i - digitsStart > kPlainDigits || (i < m_nLength && m_pLine[i] != m_cDelimiter) ||
+            m_bDigitDelimiter) {
             m_tokenizer.SetPosition(m_nAt);
-            value = TruncateToInteger(m_tokenizer.ReadNumber());
-            i = m_tokenizer.Position();
-        } else if (negative) {
-            value = -value;
+            const long long general = TruncateToInteger(m_tokenizer.ReadNumber());
+            m_nAt = m_tokenizer.Position() + 1;
+            return static_cast<Int>(general);
         }
         m_nAt = i + 1;
-        return static_cast<Int>(value);
+        const long long plain = static_cast<long long>(value);
+        return static_cast<Int>(negative ? -plain : plain);
     }
     // One word: the name of a record. A normalised line has no empty fields, so an empty word
     // means the line ended before it.
@@ -76,6 +72,11 @@ public:
     std::string_view Line() const { return std::string_view(m_pLine, m_nLength); }
 
 private:
+    // Nine digits are always below 2^31, so they need no reduction; the loop may read more
+    // (unsigned, so they wrap harmlessly) before it hands the number on.
+    static constexpr std::size_t kPlainDigits = 9;
+    static unsigned Digit(char c) { return static_cast<unsigned char>(c) - unsigned{'0'}; }
+
     CLineTokenizer& m_tokenizer;
     const char* m_pLine;
     std::size_t m_nLength;

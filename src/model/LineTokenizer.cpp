@@ -31,6 +31,7 @@ void CLineTokenizer::SetDelimiter(char delimiter) {
     m_bSeparator.fill(false);
     m_bSeparator[static_cast<unsigned char>('\t')] = true;
     m_bSeparator[static_cast<unsigned char>(delimiter)] = true;
+    m_delimiters16.fill(delimiter);
 }
 
 namespace {
@@ -104,7 +105,7 @@ bool CLineTokenizer::NeedsCompacting(const char* begin, const char* end) const {
         return check(begin) || check(end - 9);
     }
     const Bytes16 tabs16 = Bytes16{} + static_cast<unsigned char>('\t');
-    const Bytes16 delimiters16 = Bytes16{} + static_cast<unsigned char>(m_cDelimiter);
+    const Bytes16 delimiters16 = Load16(m_delimiters16.data());
     const auto check16 = [&](const char* p) {
         const Bytes16 here = Load16(p);
         return BitsOf((here == tabs16) |
@@ -136,7 +137,7 @@ void CLineTokenizer::Take(std::string_view text, bool view) {
     const char* last = first + text.size();
     // Indentation: sixteen bytes a step while that many are left.
     const Bytes16 tabs16 = Bytes16{} + static_cast<unsigned char>('\t');
-    const Bytes16 delimiters16 = Bytes16{} + static_cast<unsigned char>(m_cDelimiter);
+    const Bytes16 delimiters16 = Load16(m_delimiters16.data());
     for (; last - first >= 16; first += 16) {
         const Bytes16 here = Load16(first);
         const unsigned kept = ~BitsOf((here == tabs16) | (here == delimiters16)) & 0xFFFFu;

@@ -74,6 +74,8 @@ private:
     std::size_t m_nCursor = 0;
     char m_cDelimiter = '\0';
     std::array<bool, 256> m_bSeparator{};  // the tab and the delimiter, by byte value
+    // The delimiter sixteen times, as the checks of a line compare it sixteen bytes at once.
+    std::array<char, 16> m_delimiters16{};
 };
 
 template <typename Int>
