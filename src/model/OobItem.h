@@ -88,6 +88,8 @@ protected:
     static double SumSubtree(const CTreeStore& tree, HTREEITEM entry, int category, int measure);
 };
 
+static_assert(alignof(COobItem) <= pool_detail::kGranule);
+
 // The first kind of database, in its order, whose keyword begins the normalised line.
 inline CKindRecord* FindKindInLine(CGameDatabase* database, std::string_view line) {
     return database ? database->FindKindForLine(line) : nullptr;

@@ -19,10 +19,12 @@ public:
     // record the cost needs is missing.
     double CostModifier() const;
 
+    // The three short fields first, where they fill the end of the item's base: a unit then
+    // takes 112 bytes rather than 120, and an order of battle is mostly units.
     std::int16_t m_nStrength = 0;
     std::int16_t m_nQuality = 0;  // a negative quality marks a fanatic unit
-    std::int32_t m_nPicture = 0;
     std::int16_t m_nReserved = 0;
+    std::int32_t m_nPicture = 0;
     std::int32_t m_nIcon = 0;
 
 private:

@@ -73,6 +73,8 @@ private:
         m_children;
 };
 
+static_assert(alignof(CTreeEntry) <= pool_detail::kGranule);
+
 class CTreeStore {
 public:
     CTreeStore();
