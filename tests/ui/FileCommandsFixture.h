@@ -68,24 +68,32 @@ protected:
         dlg.DoModal();
     }
 
-    // File, Load of path, accepted as it stands in "Workspace Properties".
-    void Load(CHeadlessUser& user, const std::string& path) {
+    // File, Load of path, accepted as it stands in "Workspace Properties" after check has looked
+    // at the dialog.
+    void Load(
+        CHeadlessUser& user, const std::string& path, const Script& check = [](CHeadlessUser&) {}) {
         ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
         ui.AnswerFileDialog(path);
-        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) { ws.Click(IDC_WS_ACCEPT); });
+        ui.OnDialog(IDD_WORKSPACE, [check](CHeadlessUser& ws) {
+            check(ws);
+            ws.Click(IDC_WS_ACCEPT);
+        });
         user.Command(ID_FILE_LOAD);
     }
 
     // One of the New commands: the workspace file, then the OOB and target files picked in
-    // "Workspace Properties"; then answers the messages that follow.
-    void New(CHeadlessUser& user, int command, const std::string& workspace,
-             const std::string& oobFile, const std::string& target,
-             const std::vector<std::string>& laterMessages = {}) {
+    // "Workspace Properties" after check has looked at the dialog; then answers the messages that
+    // follow.
+    void New(
+        CHeadlessUser& user, int command, const std::string& workspace, const std::string& oobFile,
+        const std::string& target, const std::vector<std::string>& laterMessages = {},
+        const Script& check = [](CHeadlessUser&) {}) {
         ui.AnswerMessage(IDYES);
         ui.AnswerFileDialog(workspace);
         ui.AnswerFileDialog(oobFile);
         ui.AnswerFileDialog(target);
-        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+        ui.OnDialog(IDD_WORKSPACE, [check](CHeadlessUser& ws) {
+            check(ws);
             ws.Click(IDC_WS_OOB_PICK);
             ws.Click(IDC_WS_TARGET_PICK);
             ws.Click(IDC_WS_ACCEPT);
