@@ -28,6 +28,8 @@ TEST_F(FileCommandsTest, LoadOfTheSampleWorkspaceShowsItsOrderOfBattle) {
         EXPECT_EQ(Labels(main.m_tree), expected);
         ASSERT_NE(main.m_pWorkspace, nullptr);
         EXPECT_EQ(main.m_pWorkspace->m_strPath, folder / "harnwick.txt");
+        ASSERT_NE(main.m_pDatabase, nullptr);
+        EXPECT_EQ(main.m_pDatabase->m_pPrompts, &main.m_prompts);
     });
     ASSERT_EQ(ui.Messages().size(), 2u);  // the Load question and the quit question
     EXPECT_EQ(ui.Messages()[0].caption, "Load");
