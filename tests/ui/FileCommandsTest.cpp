@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "FileCommandsFixture.h"
+#include "MainWindowFixture.h"
 #include "app/Workspace.h"
 #include "gamedata/GameRecords.h"
 

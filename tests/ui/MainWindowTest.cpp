@@ -2,34 +2,13 @@
 // and the right-click menu.
 #include <gtest/gtest.h>
 
-#include "HeadlessTest.h"
-#include "UiFolder.h"
+#include "MainWindowFixture.h"
 #include "app/EditorApp.h"
-#include "app/MainDlg.h"
-#include "resources/ResourceIds.h"
 
 namespace {
-class MainWindowTest : public HeadlessTest {
-protected:
-    // Runs the main window with script, and quits it afterwards.
-    int Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script,
-            const std::string& startIni = ".\n") {
-        WriteBytes(folder / "START.INI", startIni);
-        ui.OnDialog(IDD_HARNWICK_DIALOG, [&](CHeadlessUser& user) {
-            script(user, static_cast<CMainDlg&>(user.Dialog()));
-            if (user.Dialog().IsRunning()) {
-                ui.AnswerMessage("Do you want to quit?", IDYES);
-                user.Command(ID_FILE_EXIT);
-            }
-        });
-        return dlg.DoModal();
-    }
-
-    CUiFolder folder;
-    CMainDlg dlg;
-};
 
 TEST_F(MainWindowTest, WithoutStartIniTheProgramSaysSoAndEnds) {
+    std::filesystem::remove(folder / "START.INI");
     ui.AnswerMessage(IDOK);
     EXPECT_EQ(dlg.DoModal(), -1);
     ASSERT_EQ(ui.Messages().size(), 1u);
@@ -49,7 +28,8 @@ TEST_F(MainWindowTest, TheFirstLineOfStartIniIsTheStartFolder) {
         {"C:\\Caf\xE9\\OOB\n", "C:\\Caf\xE9\\OOB"},
     };
     for (const auto& [content, startDir] : cases) {
-        Run([](CHeadlessUser&, CMainDlg&) {}, content);
+        WriteBytes(folder / "START.INI", content);
+        Run([](CHeadlessUser&, CMainDlg&) {});
         EXPECT_EQ(dlg.m_strStartDir, startDir) << content.substr(0, 20);
     }
 }
@@ -131,7 +111,6 @@ TEST_F(MainWindowTest, TheRightClickMenuOpensBesideTheSelectedEntry) {
 }
 
 TEST_F(MainWindowTest, TheApplicationRunsTheMainWindowAndEnds) {
-    WriteBytes(folder / "START.INI", ".\n");
     CEditorApp app;
     ui.AnswerMessage("Do you want to quit?", IDYES);
     ui.OnDialog(IDD_HARNWICK_DIALOG, [&app](CHeadlessUser& user) {

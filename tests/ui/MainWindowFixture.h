@@ -1,5 +1,5 @@
-// The fixture of the File command tests: a copy of the sample workspace in a fresh folder, the
-// main window run with a script, and the steps most commands begin with.
+// The fixture of the main window's tests: a copy of the sample workspace in a fresh folder named
+// by START.INI, the main window run with a script, and the steps the File commands begin with.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -48,9 +48,9 @@ inline std::string WithReplaced(std::string text, const std::string& from, const
     return at == std::string::npos ? text : text.replace(at, from.size(), to);
 }
 
-class FileCommandsTest : public HeadlessTest {
+class MainWindowTest : public HeadlessTest {
 protected:
-    FileCommandsTest() {
+    MainWindowTest() {
         for (const char* name :
              {"harnwick.txt", "valdoria.inf", "valdoria.oob", "frontier.oob", "valdoria.tpl"}) {
             std::filesystem::copy_file(std::string(HW_SAMPLE_DIR) + "/" + name, folder / name);
@@ -58,14 +58,17 @@ protected:
         WriteBytes(folder / "START.INI", folder.Path() + "\r\n");
     }
 
-    // Runs the main window with script, and quits it afterwards.
-    void Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script) {
+    // Runs the main window with script, and quits it afterwards unless the script did; gives its
+    // result.
+    int Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script) {
         ui.OnDialog(IDD_HARNWICK_DIALOG, [&](CHeadlessUser& user) {
             script(user, static_cast<CMainDlg&>(user.Dialog()));
-            ui.AnswerMessage("Do you want to quit?", IDYES);
-            user.Command(ID_FILE_EXIT);
+            if (user.Dialog().IsRunning()) {
+                ui.AnswerMessage("Do you want to quit?", IDYES);
+                user.Command(ID_FILE_EXIT);
+            }
         });
-        dlg.DoModal();
+        return dlg.DoModal();
     }
 
     // File, Load of path, accepted as it stands in "Workspace Properties" after check has looked
@@ -122,3 +125,5 @@ protected:
     CUiFolder folder;
     CMainDlg dlg;
 };
+
+using FileCommandsTest = MainWindowTest;
