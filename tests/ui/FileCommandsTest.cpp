@@ -361,40 +361,26 @@ TEST_F(FileCommandsTest, LoadClearsTheClipboard) {
     });
 }
 
-struct UnknownTypeCase {
-    Script answer;
-    std::uint8_t unitClass;
-};
-
-// A unit of a type the game data lacks: the reader's "Warning!" message, then "Select unit
-// class" with the unit's line; the answer becomes the new type's class (Escape: infantry).
+// A unit of a type the game data lacks: the reader's "Warning!" messages, then "Select unit
+// class" with the unit's line; the answer becomes the new type's class. (Each answer's class:
+// the dialog's own test and the reader's.)
 TEST_F(FileCommandsTest, AnUnknownUnitTypeIsAskedAboutThroughTheMainWindow) {
-    WriteBytes(folder / "odd.oob",
-               "3\r\nA Odd Army\r\n\tBegin\r\n\tU 26 4 Zouaves Musket 3 0 2 Zouave Company\r\n"
-               "\tEnd\r\n");
-    const std::vector<UnknownTypeCase> cases = {
-        {[](CHeadlessUser& u) { u.Escape(); }, 1},
-        {[](CHeadlessUser& u) { u.Click(IDC_CLASS_CAVALRY); }, 2},
-        {[](CHeadlessUser& u) { u.Click(IDC_CLASS_ARTILLERY); }, 3},
-    };
+    const std::string line = "U 26 4 Zouaves Musket 3 0 2 Zouave Company";
+    WriteBytes(folder / "odd.oob", "3\r\nA Odd Army\r\n\tBegin\r\n\t" + line + "\r\n\tEnd\r\n");
     Run([&](CHeadlessUser& user, CMainDlg& main) {
-        for (const UnknownTypeCase& c : cases) {
-            ui.OnDialog(IDD_UNIT_CLASS, [&c](CHeadlessUser& question) {
-                EXPECT_EQ(question.Text(IDC_CLASS_LINE),
-                          "U 26 4 Zouaves Musket 3 0 2 Zouave Company");
-                c.answer(question);
-            });
-            const std::string entry = "Entry : U 26 4 Zouaves Musket 3 0 2 Zouave Company\n";
-            New(user, ID_FILE_NEW_EXISTING, folder / "odd.txt", folder / "odd.oob",
-                folder / "valdoria.inf",
-                {entry + "Uknown unit type : [Zouaves]",
-                 entry + "Uknown weapon type : [Musket] for unit type [Zouaves]"});
-            const auto& type =
-                static_cast<const CTypeRecord&>(*main.m_pDatabase->m_Types.Head()->m_pPayload);
-            EXPECT_EQ(type.m_strType, "Zouaves");
-            EXPECT_EQ(type.ClassCode(), c.unitClass);
-            EXPECT_EQ(main.m_tree.GetCount(), 2u);
-        }
+        ui.OnDialog(IDD_UNIT_CLASS, [&](CHeadlessUser& question) {
+            EXPECT_EQ(question.Text(IDC_CLASS_LINE), line);
+            question.Click(IDC_CLASS_ARTILLERY);
+        });
+        New(user, ID_FILE_NEW_EXISTING, folder / "odd.txt", folder / "odd.oob",
+            folder / "valdoria.inf",
+            {"Entry : " + line + "\nUknown unit type : [Zouaves]",
+             "Entry : " + line + "\nUknown weapon type : [Musket] for unit type [Zouaves]"});
+        const auto& type =
+            static_cast<const CTypeRecord&>(*main.m_pDatabase->m_Types.Head()->m_pPayload);
+        EXPECT_EQ(type.m_strType, "Zouaves");
+        EXPECT_EQ(type.ClassCode(), 3);
+        EXPECT_EQ(main.m_tree.GetCount(), 2u);
     });
     for (const CShownMessage& shown : ui.Messages()) {
         if (shown.caption != "New" && shown.caption != "Exit") {
