@@ -233,20 +233,6 @@ TEST_F(FileCommandsTest, AFailedSaveStopsTheCommandThatAskedForIt) {
     EXPECT_EQ(ui.FileDialogs().size(), 3u);  // those of New only
 }
 
-TEST_F(FileCommandsTest, NewExistingReadsTheChosenFileWithoutWritingIt) {
-    const std::string sample = ReadBytes(folder / "valdoria.oob");
-    Run([&](CHeadlessUser& user, CMainDlg& main) {
-        New(user, ID_FILE_NEW_EXISTING, folder / "existing.txt", folder / "valdoria.oob",
-            folder / "valdoria.inf");
-        ExpectStatus(user, " ", "*");
-        EXPECT_EQ(Labels(main.m_tree),
-                  LabelsOfFile(folder / "valdoria.oob", folder / "valdoria.inf"));
-    });
-    EXPECT_EQ(ui.Messages()[0].caption, "New");  // its text: the cancelled steps' test
-    EXPECT_TRUE(ui.FileDialogs()[1].open);       // the OOB file must exist
-    EXPECT_EQ(ReadBytes(folder / "valdoria.oob"), sample);
-}
-
 // The sample's attached order of battle names its file relative to the current folder. The
 // copy is byte for byte: CR LF and bare LF lines, a last line without a line end.
 TEST_F(FileCommandsTest, NewAttachedCopiesTheChosenFileByteForByte) {
@@ -361,12 +347,14 @@ TEST_F(FileCommandsTest, LoadClearsTheClipboard) {
     });
 }
 
-// A unit of a type the game data lacks: the reader's "Warning!" messages, then "Select unit
-// class" with the unit's line; the answer becomes the new type's class. (Each answer's class:
-// the dialog's own test and the reader's.)
-TEST_F(FileCommandsTest, AnUnknownUnitTypeIsAskedAboutThroughTheMainWindow) {
+// New, existing reads the chosen file, which must exist, and writes nothing. A unit of a type the
+// game data lacks: the reader's "Warning!" messages, then "Select unit class" with the unit's
+// line; the answer becomes the new type's class. (Each answer's class: the dialog's own test and
+// the reader's.)
+TEST_F(FileCommandsTest, NewExistingReadsTheChosenFileAskingAboutAnUnknownUnitType) {
     const std::string line = "U 26 4 Zouaves Musket 3 0 2 Zouave Company";
-    WriteBytes(folder / "odd.oob", "3\r\nA Odd Army\r\n\tBegin\r\n\t" + line + "\r\n\tEnd\r\n");
+    const std::string odd = "3\r\nA Odd Army\r\n\tBegin\r\n\t" + line + "\r\n\tEnd\r\n";
+    WriteBytes(folder / "odd.oob", odd);
     Run([&](CHeadlessUser& user, CMainDlg& main) {
         ui.OnDialog(IDD_UNIT_CLASS, [&](CHeadlessUser& question) {
             EXPECT_EQ(question.Text(IDC_CLASS_LINE), line);
@@ -380,8 +368,12 @@ TEST_F(FileCommandsTest, AnUnknownUnitTypeIsAskedAboutThroughTheMainWindow) {
             static_cast<const CTypeRecord&>(*main.m_pDatabase->m_Types.Head()->m_pPayload);
         EXPECT_EQ(type.m_strType, "Zouaves");
         EXPECT_EQ(type.ClassCode(), 3);
-        EXPECT_EQ(main.m_tree.GetCount(), 2u);
+        ExpectStatus(user, " ", "*");
+        EXPECT_EQ(Labels(main.m_tree), (std::vector<std::string>{"Odd Army", " Zouave Company"}));
     });
+    EXPECT_EQ(ui.Messages()[0].caption, "New");  // its text: the cancelled steps' test
+    EXPECT_TRUE(ui.FileDialogs()[1].open);
+    EXPECT_EQ(ReadBytes(folder / "odd.oob"), odd);
     for (const CShownMessage& shown : ui.Messages()) {
         if (shown.caption != "New" && shown.caption != "Exit") {
             EXPECT_EQ(shown.caption, "Warning!");
