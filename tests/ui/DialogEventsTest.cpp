@@ -82,22 +82,20 @@ TEST_F(DialogEventsTest, EnterEscapeAndTheCloseBox) {
     EXPECT_EQ(collected, Log{"close box of dialog 902: it has none"});
 }
 
-TEST_F(DialogEventsTest, ChecksToggleBeforeTheirHandlerAndNotifyingStaticsReportClicks) {
+// A check box toggles and a list selects before its handler runs, each after the focus it took
+// was lost; a notifying static reports clicks and takes no focus.
+TEST_F(DialogEventsTest, HandlersSeeTheNewCheckAndSelectionAndStaticsReportClicks) {
     EXPECT_EQ(Run([](CHeadlessUser& user) {
                   user.Click(103);
                   user.Click(103);
                   user.Click(105);
-                  EXPECT_EQ(user.FocusId(), 103);  // a static takes no focus
-              }),
-              (Log{"kill 101", "check 1", "check 0", "click 105", "OnCancel"}));
-}
-
-TEST_F(DialogEventsTest, ASelectionChangeSeesTheNewSelection) {
-    EXPECT_EQ(Run([](CHeadlessUser& user) {
+                  EXPECT_EQ(user.FocusId(), 103);
+                  user.Type(102, "1");
                   user.Pick(104, "Artillery");
                   user.Pick(104, 0);
               }),
-              (Log{"kill 101", "select 2", "select 0", "OnCancel"}));
+              (Log{"kill 101", "check 1", "check 0", "click 105", "kill 102", "select 2",
+                   "select 0", "OnCancel"}));
 }
 
 TEST_F(DialogEventsTest, TheUserCannotReachHiddenDisabledOrSilentControls) {
@@ -123,7 +121,9 @@ TEST_F(DialogEventsTest, TheUserCannotReachHiddenDisabledOrSilentControls) {
                          }));
 }
 
-TEST_F(DialogEventsTest, ARightClickLeavesTheSelectionAndADoubleClickExpands) {
+// A right click leaves the selection, a double click selects and expands or collapses, and a
+// label edit keeps the text only when the handler accepts it.
+TEST_F(DialogEventsTest, TheTreesGesturesReachTheirHandlers) {
     EXPECT_EQ(Run([this](CHeadlessUser& user) {
                   CTreeStore& tree = dlg.GetDlgItem(107)->Tree();
                   user.SelectEntry(107, dlg.army);
@@ -134,18 +134,13 @@ TEST_F(DialogEventsTest, ARightClickLeavesTheSelectionAndADoubleClickExpands) {
                   EXPECT_TRUE(dlg.corps->Expanded());
                   user.DoubleClick(107, dlg.corps);
                   EXPECT_FALSE(dlg.corps->Expanded());
-              }),
-              (Log{"kill 101", "right click", "double click", "double click", "OnCancel"}));
-}
-
-TEST_F(DialogEventsTest, ALabelEditKeepsTheTextOnlyWhenTheHandlerAccepts) {
-    EXPECT_EQ(Run([this](CHeadlessUser& user) {
                   EXPECT_TRUE(user.EditLabel(107, dlg.corps, std::string("II Corps")));
                   EXPECT_FALSE(user.EditLabel(107, dlg.corps, std::string("Refused")));
                   EXPECT_FALSE(user.EditLabel(107, dlg.corps, std::nullopt));
                   EXPECT_EQ(dlg.corps->Label(), "II Corps");
               }),
-              (Log{"kill 101", "end edit Corps -> II Corps", "end edit II Corps -> Refused",
+              (Log{"kill 101", "right click", "double click", "double click",
+                   "end edit Corps -> II Corps", "end edit II Corps -> Refused",
                    "end edit II Corps cancelled", "OnCancel"}));
 }
 

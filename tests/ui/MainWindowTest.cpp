@@ -2,34 +2,13 @@
 // and the right-click menu.
 #include <gtest/gtest.h>
 
-#include "HeadlessTest.h"
-#include "UiFolder.h"
+#include "MainWindowFixture.h"
 #include "app/EditorApp.h"
-#include "app/MainDlg.h"
-#include "resources/ResourceIds.h"
 
 namespace {
-class MainWindowTest : public HeadlessTest {
-protected:
-    // Runs the main window with script, and quits it afterwards.
-    int Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script,
-            const std::string& startIni = ".\n") {
-        WriteBytes(folder / "START.INI", startIni);
-        ui.OnDialog(IDD_HARNWICK_DIALOG, [&](CHeadlessUser& user) {
-            script(user, static_cast<CMainDlg&>(user.Dialog()));
-            if (user.Dialog().IsRunning()) {
-                ui.AnswerMessage("Do you want to quit?", IDYES);
-                user.Command(ID_FILE_EXIT);
-            }
-        });
-        return dlg.DoModal();
-    }
-
-    CUiFolder folder;
-    CMainDlg dlg;
-};
 
 TEST_F(MainWindowTest, WithoutStartIniTheProgramSaysSoAndEnds) {
+    std::filesystem::remove(folder / "START.INI");
     ui.AnswerMessage(IDOK);
     EXPECT_EQ(dlg.DoModal(), -1);
     ASSERT_EQ(ui.Messages().size(), 1u);
@@ -49,7 +28,8 @@ TEST_F(MainWindowTest, TheFirstLineOfStartIniIsTheStartFolder) {
         {"C:\\Caf\xE9\\OOB\n", "C:\\Caf\xE9\\OOB"},
     };
     for (const auto& [content, startDir] : cases) {
-        Run([](CHeadlessUser&, CMainDlg&) {}, content);
+        WriteBytes(folder / "START.INI", content);
+        Run([](CHeadlessUser&, CMainDlg&) {});
         EXPECT_EQ(dlg.m_strStartDir, startDir) << content.substr(0, 20);
     }
 }
@@ -72,8 +52,9 @@ TEST_F(MainWindowTest, EscapeAsksBeforeQuittingAndNoKeepsTheWindowOpen) {
 }
 
 // Everything but New, Load, Exit, About and Armies summary needs a workspace: before one is
-// open, each does nothing and shows nothing (an unscripted message or dialog fails the test),
-// and the right-click menu still opens at the tree's top-left corner.
+// open, each does nothing and shows nothing (an unscripted message or dialog fails the test).
+// The right-click menu still opens: at the tree's top-left corner with no entry selected, else
+// beside the selected entry's label (19..19+6*8+4 by 0..16 in the tree at 11, 11).
 TEST_F(MainWindowTest, CommandsBeforeAnyWorkspaceDoNothingAndShowNothing) {
     const int commands[] = {
         ID_FILE_SAVE,           ID_FILE_SAVE_AS,
@@ -94,6 +75,7 @@ TEST_F(MainWindowTest, CommandsBeforeAnyWorkspaceDoNothingAndShowNothing) {
         ID_REPORT_KEY,
     };
     ui.AnswerPopupMenu(ID_DELETE_ITEM);
+    ui.AnswerPopupMenu(0);
     Run([&](CHeadlessUser& user, CMainDlg& main) {
         for (int command : commands) {
             user.Command(command);
@@ -108,30 +90,21 @@ TEST_F(MainWindowTest, CommandsBeforeAnyWorkspaceDoNothingAndShowNothing) {
         EXPECT_EQ(user.Text(IDC_MARKED_CAPTION), "Marked item");
         EXPECT_EQ(main.m_tree.GetCount(), 0u);
         EXPECT_EQ(main.m_pWorkspace, nullptr);
-    });
-    EXPECT_EQ(ui.Messages().size(), 1u);  // the quit question only
-    EXPECT_EQ(ui.Dialogs().size(), 1u);
-    ASSERT_EQ(ui.Popups().size(), 1u);
-    EXPECT_EQ(ui.Popups()[0].menu.text, "&Edit");
-    EXPECT_EQ(ui.Popups()[0].point, (CPoint{11, 11}));  // 7, 7 dialog units
-}
-
-// Beside the selected entry's label: 19..19+6*8+4 by 0..16 in the tree at 11, 11.
-TEST_F(MainWindowTest, TheRightClickMenuOpensBesideTheSelectedEntry) {
-    ui.AnswerPopupMenu(0);
-    Run([](CHeadlessUser& user, CMainDlg& main) {
         const HTREEITEM army = main.m_tree.InsertItem("1st Army");
         user.SelectEntry(IDC_TREE, army);
         user.RightClick(IDC_TREE);
         EXPECT_EQ(main.m_tree.GetSelectedItem(), army);
         main.m_tree.DeleteAllItems();
     });
-    ASSERT_EQ(ui.Popups().size(), 1u);
-    EXPECT_EQ(ui.Popups()[0].point, (CPoint{11 + 19 + 52 + 20, 11 + 16}));
+    EXPECT_EQ(ui.Messages().size(), 1u);  // the quit question only
+    EXPECT_EQ(ui.Dialogs().size(), 1u);
+    ASSERT_EQ(ui.Popups().size(), 2u);
+    EXPECT_EQ(ui.Popups()[0].menu.text, "&Edit");
+    EXPECT_EQ(ui.Popups()[0].point, (CPoint{11, 11}));  // 7, 7 dialog units
+    EXPECT_EQ(ui.Popups()[1].point, (CPoint{11 + 19 + 52 + 20, 11 + 16}));
 }
 
 TEST_F(MainWindowTest, TheApplicationRunsTheMainWindowAndEnds) {
-    WriteBytes(folder / "START.INI", ".\n");
     CEditorApp app;
     ui.AnswerMessage("Do you want to quit?", IDYES);
     ui.OnDialog(IDD_HARNWICK_DIALOG, [&app](CHeadlessUser& user) {

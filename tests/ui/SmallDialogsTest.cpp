@@ -46,7 +46,8 @@ protected:
 };
 
 // Case-sensitive, in tree order (an entry, its children, then its next sibling), the first
-// match selected; an empty search lists every entry, and Goto takes the picked line.
+// match selected; an empty search lists every entry, and Goto takes the picked line. Cancel,
+// Escape and the close box then choose nothing.
 TEST_F(FindDlgTest, FindsLabelsInTheSameCaseInTreeOrder) {
     CFindDlg dlg(tree);
     ui.OnDialog(IDD_FIND, [](CHeadlessUser& user) {
@@ -70,10 +71,6 @@ TEST_F(FindDlgTest, FindsLabelsInTheSameCaseInTreeOrder) {
     });
     EXPECT_EQ(dlg.DoModal(), 1);
     EXPECT_EQ(dlg.ChosenEntry(), guards);
-}
-
-TEST_F(FindDlgTest, CancelEscapeAndTheCloseBoxChooseNothing) {
-    CFindDlg dlg(tree);
     for (const Script& leave : kCloseWithoutChoosing) {
         ui.OnDialog(IDD_FIND, [leave](CHeadlessUser& user) {
             user.Click(IDC_FIND_SEARCH);

@@ -25,7 +25,6 @@ public:
     void Log(std::string event) { log.push_back(std::move(event)); }
 
     using CDialog::OnClicked;
-    using CDialog::OnCommand;
     using CDialog::OnKillFocus;
     using CDialog::OnSelChange;
     using CDialog::OnTreeDoubleClick;

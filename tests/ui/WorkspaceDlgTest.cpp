@@ -140,67 +140,50 @@ TEST_F(WorkspaceDlgTest, AcceptSavesEveryFieldToTheWorkspaceFile) {
               "0|empty|\r\n");
 }
 
-// Only the empty text is refused, and the OOB file first; "empty" passes. Refused, the dialog
-// stays open with its fields, even with the pickers disabled.
-TEST_F(WorkspaceDlgTest, OnlyAnEmptyOobOrTargetPathIsRefused) {
+// Accept refuses an empty OOB path, then an empty target path ("empty" passes), and fails on a
+// workspace file that cannot be written: the message names the fault, the dialog stays open with
+// the user's fields (even with the pickers disabled), and the workspace keeps its values, so that
+// Cancel, Escape or the close box still give 0 and leave it and its file as they were.
+TEST_F(WorkspaceDlgTest, ARefusedOrFailedAcceptStaysOpenAndLeavingChangesNothing) {
+    const std::string written = workspace.m_strPath;
+    const std::string unwritable = folder / "no-such-folder/campaign.txt";
     const struct {
-        const char *oobFile, *targetFile, *message;  // no message: accepted
+        const char *oobFile, *targetFile;
+        std::string path, message;
+        Script leave;  // none: accepted
     } cases[] = {
-        {"", "", "You must select OOB file!"},
-        {"marches.oob", "", "You must select target file!"},
-        {"empty", "empty", nullptr},
+        {"", "", written, "You must select OOB file!",
+         [](CHeadlessUser& u) { u.Click(IDC_WS_CANCEL); }},
+        {"marches.oob", "", written, "You must select target file!",
+         [](CHeadlessUser& u) { u.Escape(); }},
+        {"marches.oob", "marches.inf", unwritable,
+         "Cannot write " + unwritable + ": No such file or directory",
+         [](CHeadlessUser& u) { u.CloseBox(); }},
+        {"empty", "empty", written, "", nullptr},
     };
     dlg.m_nMode = 1;
     for (const auto& c : cases) {
         workspace.m_strOobFile = c.oobFile;
         workspace.m_strTargetFile = c.targetFile;
-        if (c.message) {
+        workspace.m_strPath = c.path;
+        if (c.leave) {
             ui.AnswerMessage(c.message, IDOK);
         }
         const int result = Run([&c](CHeadlessUser& user) {
             user.Type(IDC_WS_TITLE, "Typed");
             user.Click(IDC_WS_ACCEPT);
-            EXPECT_EQ(user.Dialog().IsRunning(), c.message != nullptr);
-            if (user.Dialog().IsRunning()) {
+            EXPECT_EQ(user.Dialog().IsRunning(), c.leave != nullptr);
+            if (c.leave) {
                 EXPECT_EQ(user.Text(IDC_WS_TITLE), "Typed");
-                user.Click(IDC_WS_CANCEL);
+                c.leave(user);
             }
         });
-        EXPECT_EQ(result, c.message ? 0 : 1);
-        EXPECT_EQ(std::filesystem::exists(folder / "campaign.txt"), !c.message);
+        EXPECT_EQ(result, c.leave ? 0 : 1) << c.message;
+        EXPECT_EQ(workspace.m_strTitle, c.leave ? "Northern Marches" : "Typed") << c.message;
+        EXPECT_EQ(std::filesystem::exists(written), !c.leave) << c.message;
     }
-    EXPECT_EQ(ui.Messages().size(), 2u);
-}
-
-TEST_F(WorkspaceDlgTest, CancelEscapeAndTheCloseBoxGiveZeroAndLeaveTheWorkspace) {
-    for (Script leave : {Script([](CHeadlessUser& u) { u.Click(IDC_WS_CANCEL); }),
-                         Script([](CHeadlessUser& u) { u.Escape(); }),
-                         Script([](CHeadlessUser& u) { u.CloseBox(); })}) {
-        EXPECT_EQ(Run([leave](CHeadlessUser& user) {
-                      user.Type(IDC_WS_TITLE, "Not kept");
-                      leave(user);
-                  }),
-                  0);
+    for (const CShownMessage& shown : ui.Messages()) {
+        EXPECT_EQ(shown.type, unsigned{MB_OK | MB_ICONEXCLAMATION});
     }
-    EXPECT_EQ(workspace.m_strTitle, "Northern Marches");
-    EXPECT_FALSE(std::filesystem::exists(folder / "campaign.txt"));
-}
-
-// A workspace file that cannot be written: the error names it, the dialog stays open with the
-// user's fields, and the workspace keeps its values, so Cancel still leaves it as it was.
-TEST_F(WorkspaceDlgTest, AFailedSaveNamesTheFileAndStaysOpen) {
-    workspace.m_strPath = folder / "no-such-folder/campaign.txt";
-    ui.AnswerMessage(IDOK);
-    const int result = Run([](CHeadlessUser& user) {
-        user.Type(IDC_WS_TITLE, "Unsaved");
-        user.Click(IDC_WS_ACCEPT);
-        EXPECT_EQ(user.Text(IDC_WS_TITLE), "Unsaved");
-        user.Click(IDC_WS_CANCEL);
-    });
-    EXPECT_EQ(result, 0);
-    ASSERT_EQ(ui.Messages().size(), 1u);
-    EXPECT_EQ(ui.Messages()[0].text.rfind("Cannot write " + workspace.m_strPath, 0), 0u);
-    EXPECT_EQ(ui.Messages()[0].type, unsigned{MB_OK | MB_ICONEXCLAMATION});
-    EXPECT_EQ(workspace.m_strTitle, "Northern Marches");
 }
 }  // namespace

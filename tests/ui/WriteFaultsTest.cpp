@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "FileCommandsFixture.h"
+#include "MainWindowFixture.h"
 #include "core/FailingFileOps.h"
 
 namespace {

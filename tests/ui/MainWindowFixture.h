@@ -1,5 +1,5 @@
-// The fixture of the File command tests: a copy of the sample workspace in a fresh folder, the
-// main window run with a script, and the steps most commands begin with.
+// The fixture of the main window's tests: a copy of the sample workspace in a fresh folder named
+// by START.INI, the main window run with a script, and the steps the File commands begin with.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -48,9 +48,9 @@ inline std::string WithReplaced(std::string text, const std::string& from, const
     return at == std::string::npos ? text : text.replace(at, from.size(), to);
 }
 
-class FileCommandsTest : public HeadlessTest {
+class MainWindowTest : public HeadlessTest {
 protected:
-    FileCommandsTest() {
+    MainWindowTest() {
         for (const char* name :
              {"harnwick.txt", "valdoria.inf", "valdoria.oob", "frontier.oob", "valdoria.tpl"}) {
             std::filesystem::copy_file(std::string(HW_SAMPLE_DIR) + "/" + name, folder / name);
@@ -58,34 +58,45 @@ protected:
         WriteBytes(folder / "START.INI", folder.Path() + "\r\n");
     }
 
-    // Runs the main window with script, and quits it afterwards.
-    void Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script) {
+    // Runs the main window with script, and quits it afterwards unless the script did; gives its
+    // result.
+    int Run(const std::function<void(CHeadlessUser&, CMainDlg&)>& script) {
         ui.OnDialog(IDD_HARNWICK_DIALOG, [&](CHeadlessUser& user) {
             script(user, static_cast<CMainDlg&>(user.Dialog()));
-            ui.AnswerMessage("Do you want to quit?", IDYES);
-            user.Command(ID_FILE_EXIT);
+            if (user.Dialog().IsRunning()) {
+                ui.AnswerMessage("Do you want to quit?", IDYES);
+                user.Command(ID_FILE_EXIT);
+            }
         });
-        dlg.DoModal();
+        return dlg.DoModal();
     }
 
-    // File, Load of path, accepted as it stands in "Workspace Properties".
-    void Load(CHeadlessUser& user, const std::string& path) {
+    // File, Load of path, accepted as it stands in "Workspace Properties" after check has looked
+    // at the dialog.
+    void Load(
+        CHeadlessUser& user, const std::string& path, const Script& check = [](CHeadlessUser&) {}) {
         ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
         ui.AnswerFileDialog(path);
-        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) { ws.Click(IDC_WS_ACCEPT); });
+        ui.OnDialog(IDD_WORKSPACE, [check](CHeadlessUser& ws) {
+            check(ws);
+            ws.Click(IDC_WS_ACCEPT);
+        });
         user.Command(ID_FILE_LOAD);
     }
 
     // One of the New commands: the workspace file, then the OOB and target files picked in
-    // "Workspace Properties"; then answers the messages that follow.
-    void New(CHeadlessUser& user, int command, const std::string& workspace,
-             const std::string& oobFile, const std::string& target,
-             const std::vector<std::string>& laterMessages = {}) {
+    // "Workspace Properties" after check has looked at the dialog; then answers the messages that
+    // follow.
+    void New(
+        CHeadlessUser& user, int command, const std::string& workspace, const std::string& oobFile,
+        const std::string& target, const std::vector<std::string>& laterMessages = {},
+        const Script& check = [](CHeadlessUser&) {}) {
         ui.AnswerMessage(IDYES);
         ui.AnswerFileDialog(workspace);
         ui.AnswerFileDialog(oobFile);
         ui.AnswerFileDialog(target);
-        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+        ui.OnDialog(IDD_WORKSPACE, [check](CHeadlessUser& ws) {
+            check(ws);
             ws.Click(IDC_WS_OOB_PICK);
             ws.Click(IDC_WS_TARGET_PICK);
             ws.Click(IDC_WS_ACCEPT);
@@ -114,3 +125,5 @@ protected:
     CUiFolder folder;
     CMainDlg dlg;
 };
+
+using FileCommandsTest = MainWindowTest;
