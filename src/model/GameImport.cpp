@@ -1,8 +1,11 @@
 // Bringing the order of battle up to date from the game's own files: the strengths the units
 // still have after a battle, and which entries the game no longer mentions.
+#include <array>
 #include <fstream>
+#include <vector>
 
 #include "model/ContainerItems.h"
+#include "model/ItemLineReader.h"
 #include "model/LineTokenizer.h"
 #include "model/OobDocument.h"
 #include "model/Result.h"
@@ -14,7 +17,7 @@
 namespace {
 
 constexpr int kHeaderLines = 9;
-constexpr int kMaxKeyNumbers = 10;
+constexpr std::size_t kMaxKeyNumbers = 10;
 
 bool IsCounted(const COobItem& item) {
     return item.m_nType == TYPE_UNIT || item.m_nType == TYPE_LEADER || item.m_nType == TYPE_SUPPLY;
@@ -51,29 +54,68 @@ void ApplyStrength(COobItem& item, std::int16_t added) {
     }
 }
 
+// The structures whose subtrees hold no men (their Aggregate of men is 0), found in one walk
+// rather than one walk of each structure's subtree: an entry's men go to the innermost structure
+// open above it, and a structure's total to the next one out when the walk leaves it. Men are
+// whole numbers, so the totals are exact whatever the order of the sums. Inner structures come
+// before the structures that hold them, so removing them in this order never removes an entry
+// still to come.
+std::vector<HTREEITEM> StructuresWithoutMen(const CTreeStore& tree) {
+    struct Open {
+        HTREEITEM entry;
+        int depth;
+        double men;
+    };
+    std::vector<Open> open;
+    std::vector<HTREEITEM> empty;
+    const auto closeFrom = [&open, &empty](int depth) {
+        while (!open.empty() && open.back().depth >= depth) {
+            const Open closed = open.back();
+            open.pop_back();
+            if (closed.men == 0.0) {
+                empty.push_back(closed.entry);
+            }
+            if (!open.empty()) {
+                open.back().men += closed.men;
+            }
+        }
+    };
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        closeFrom(walk.Depth());
+        const COobItem* item = ItemOf(tree, walk.Current());
+        const double men = item ? item->Men() : 0.0;
+        if (item && item->m_nType == TYPE_STRUCTURE) {
+            open.push_back({walk.Current(), walk.Depth(), men});
+        } else if (!open.empty()) {
+            open.back().men += men;
+        }
+    }
+    closeFrom(0);
+    return empty;
+}
+
 }  // namespace
 
 // Keys that name no entry (a number beyond the last sibling, a level that does not exist) give
 // none: the import then changes nothing for that line, and the tree stays as it was.
 HTREEITEM COobDocument::FindItemByKey(const std::string& key, const CTreeStore& tree) {
-    CLineTokenizer tokenizer;
-    tokenizer.SetDelimiter('.');
-    tokenizer.SetLine(key);
-    std::vector<std::int16_t> numbers;
-    while (numbers.size() < kMaxKeyNumbers && tokenizer.Position() < tokenizer.Line().size()) {
-        numbers.push_back(StoreTruncated<std::int16_t>(tokenizer.ReadNumber()));
-        ++tokenizer.Position();
+    m_keyTokenizer.SetLine(key);
+    CItemLineReader reader(m_keyTokenizer, nullptr);
+    std::array<std::int16_t, kMaxKeyNumbers> numbers;
+    std::size_t count = 0;
+    while (count < kMaxKeyNumbers && !reader.AtEnd()) {
+        numbers[count++] = reader.Number<std::int16_t>();
     }
     // Moving k - 1 siblings on is a jump by rows: a game file names every unit, and a level may
     // hold hundreds of entries.
     HTREEITEM entry = tree.GetRootItem();
-    for (std::size_t i = 0; i < numbers.size() && entry; ++i) {
+    for (std::size_t i = 0; i < count && entry; ++i) {
         if (numbers[i] > 1) {
             const CTreeEntry& parent = *entry->Parent();
             const std::size_t row = entry->Row() + static_cast<std::size_t>(numbers[i] - 1);
             entry = row < parent.ChildCount() ? parent.Child(row) : nullptr;
         }
-        if (entry && i + 1 < numbers.size() && numbers[i + 1] > 0) {
+        if (entry && i + 1 < count && numbers[i + 1] > 0) {
             entry = tree.GetChildItem(entry);
         }
     }
@@ -102,16 +144,14 @@ int COobDocument::GetData(const std::string& path, CTreeStore& tree, int flags) 
             break;
         }
         tokenizer.SetLine(line);
-        const int record = StoreTruncated<std::int16_t>(tokenizer.ReadNumber());
-        ++tokenizer.Position();
+        CItemLineReader fields(tokenizer, nullptr);
+        const int record = fields.Number<std::int16_t>();
         if (record == 1) {
-            const HTREEITEM entry = FindItemByKey(std::string(tokenizer.ReadField()), tree);
-            ++tokenizer.Position();
+            const HTREEITEM entry = FindItemByKey(std::string(fields.Word()), tree);
             for (int unused = 0; unused < 2; ++unused) {
-                tokenizer.ReadNumber();
-                ++tokenizer.Position();
+                fields.Number<std::int16_t>();
             }
-            const auto added = StoreTruncated<std::int16_t>(tokenizer.ReadNumber());
+            const auto added = fields.Number<std::int16_t>();
             if (COobItem* item = entry ? ItemOf(tree, entry) : nullptr) {
                 ApplyStrength(*item, added);
             }
@@ -148,16 +188,8 @@ int COobDocument::GetData(const std::string& path, CTreeStore& tree, int flags) 
     }
 
     if (flags & IMPORT_REMOVE_EMPTY) {
-        for (CTreeWalk walk(tree, nullptr); !walk.Done();) {
-            const HTREEITEM entry = walk.Current();
-            const COobItem* item = ItemOf(tree, entry);
-            if (item && item->m_nType == TYPE_STRUCTURE &&
-                item->Aggregate(tree, entry, CATEGORY_ALL, MEASURE_MEN) == 0.0) {
-                walk.StepOver();
-                tree.DeleteItem(entry);
-                continue;
-            }
-            walk.Step();
+        for (const HTREEITEM entry : StructuresWithoutMen(tree)) {
+            tree.DeleteItem(entry);
         }
     }
     return RESULT_DONE;

@@ -60,6 +60,8 @@ public:
         m_bWordMissing = m_bWordMissing || end == start;
         return std::string_view(m_pLine + start, end - start);
     }
+    // True when every field has been read.
+    bool AtEnd() const { return m_nAt >= m_nLength; }
     // True when the line ended before a record name it should hold. No line can name a record
     // with an empty name, so the item could not be written back as it was read.
     bool WordMissing() const { return m_bWordMissing; }

@@ -85,6 +85,7 @@ COobReaderState::COobReaderState(HTREEITEM parent, HTREEITEM after) : insertAfte
 COobDocument::COobDocument() {
     m_nType = TYPE_DOCUMENT;
     m_tokenizer.SetDelimiter(' ');
+    m_keyTokenizer.SetDelimiter('.');
 }
 
 int COobDocument::WriteSubtree(std::string& out, const CTreeStore& tree, HTREEITEM start) {

@@ -111,6 +111,7 @@ private:
                              bool templateEnds);
     std::int16_t ReadNormalisedLine(CTreeStore& tree, COobReaderState& state);
 
-    CLineTokenizer m_tokenizer;  // reused from line to line
+    CLineTokenizer m_tokenizer;     // reused from line to line
+    CLineTokenizer m_keyTokenizer;  // for position keys: a game file names one a line
     int m_nLineNumber = 0;
 };

@@ -91,4 +91,14 @@ TEST_F(GameImport, StructureKeptByItsLeaderAlone) {
     EXPECT_EQ(Shape(), "North South(Staff(Aide))");
 }
 
+// Men two levels down keep every structure above them; a structure beside them with none goes,
+// and so does one whose only men are gone.
+TEST_F(GameImport, MenDeepDownKeepTheStructuresAboveThem) {
+    Build({"A East", "Begin", "C Corps", "Begin", "C Division", "Begin", "C Brigade", "Begin",
+           "U 5 2 Fus Musket 0 0 Deep", "End", "C Empty", "End", "C Gone", "Begin",
+           "U 5 2 Fus Musket 0 0 Lost"});
+    ASSERT_EQ(Import("1 3.1.1.1.1 0 0 4\n1 3.1.2.1 0 0 0\n", IMPORT_REMOVE_EMPTY), RESULT_DONE);
+    EXPECT_EQ(Shape(Find("East")), "Corps(Division(Brigade(Deep)))");
+}
+
 }  // namespace
