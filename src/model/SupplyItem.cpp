@@ -20,7 +20,7 @@ double CostByType(const COobItem& item, int count) {
 
 namespace {
 
-void AppendLine(std::string& out, const COobItem& item, long long first, long long second) {
+void AppendLine(std::string& out, const COobItem& item, std::int32_t first, std::int32_t second) {
     const std::string_view keyword = item.m_pKind ? item.m_pKind->m_strKeyword : std::string_view();
     CLineWriter line(out,
                      keyword.size() + item.m_strName.size() + 2 * (CLineWriter::kNumberRoom + 1));
