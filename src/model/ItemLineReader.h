@@ -1,5 +1,6 @@
-// Reads an item's fields from its normalised line, from the first character after the kind's
-// keyword, stepping over one delimiter after each field.
+// Reads the fields of a normalised line, stepping over one delimiter after each: an item's from
+// the first character after its kind's keyword, or, with no kind, any line's from its start (the
+// import reads the game file's records and position keys with it).
 #pragma once
 
 #include <cstddef>
@@ -13,7 +14,8 @@
 
 class CItemLineReader {
 public:
-    // tokenizer holds the normalised line; kind is the kind its keyword names (or none).
+    // tokenizer holds the normalised line; kind is the kind its keyword names (none: the line
+    // is read from its start).
     CItemLineReader(CLineTokenizer& tokenizer, const CKindRecord* kind)
         : m_tokenizer(tokenizer),
           m_pLine(tokenizer.Line().data()),
