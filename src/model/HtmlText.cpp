@@ -1,6 +1,9 @@
 #include "model/HtmlText.h"
 
+#include <bit>
 #include <cstdint>
+
+#include "model/Bytes16.h"
 
 namespace {
 
@@ -17,25 +20,39 @@ const char* Escape(char c) {
     }
 }
 
+// The first character of [p, end) that Escape changes, or end: sixteen at a time while that many
+// are left, then one test each, the escaped ones as bits of a mask of the first 64 codes.
+const char* FindEscaped(const char* p, const char* end) {
+    const Bytes16 amp = Bytes16{} + static_cast<unsigned char>('&');
+    const Bytes16 lt = Bytes16{} + static_cast<unsigned char>('<');
+    const Bytes16 gt = Bytes16{} + static_cast<unsigned char>('>');
+    for (; end - p >= 16; p += 16) {
+        const Bytes16 bytes = Load16(p);
+        if (const unsigned marked = BitsOf((bytes == amp) | (bytes == lt) | (bytes == gt))) {
+            return p + std::countr_zero(marked);
+        }
+    }
+    constexpr std::uint64_t kEscapedCodes =
+        std::uint64_t{1} << '&' | std::uint64_t{1} << '<' | std::uint64_t{1} << '>';
+    for (; p != end; ++p) {
+        const auto code = static_cast<unsigned char>(*p);
+        if (code < 64 && (kEscapedCodes >> code & 1)) {
+            return p;
+        }
+    }
+    return end;
+}
+
 }  // namespace
 
 void AppendEscaped(std::string& out, std::string_view text) {
     // Names seldom hold a character to escape: the text goes in whole runs between them.
     const char* run = text.data();
     const char* const end = run + text.size();
-    for (const char* p = run; p != end; ++p) {
-        // One test per character: the escaped ones as bits of a mask of the first 64 codes.
-        constexpr std::uint64_t kEscapedCodes =
-            std::uint64_t{1} << '&' | std::uint64_t{1} << '<' | std::uint64_t{1} << '>';
-        const auto code = static_cast<unsigned char>(*p);
-        if (code >= 64 || !(kEscapedCodes >> code & 1)) {
-            continue;
-        }
-        if (const char* escaped = Escape(*p)) {
-            out.append(run, static_cast<std::size_t>(p - run));
-            out += escaped;
-            run = p + 1;
-        }
+    for (const char* p = FindEscaped(run, end); p != end; p = FindEscaped(run, end)) {
+        out.append(run, static_cast<std::size_t>(p - run));
+        out += Escape(*p);
+        run = p + 1;
     }
     out.append(run, static_cast<std::size_t>(end - run));
 }

@@ -2,6 +2,7 @@
 
 #include "ReportTree.h"
 #include "model/ContainerItems.h"
+#include "model/HtmlText.h"
 #include "model/Result.h"
 #include "model/TextLines.h"
 
@@ -119,6 +120,28 @@ TEST_F(Reports, HtmlListsNestAndShowTotals) {
 
 // The report sums every container's totals in one pass; each line must be what the item's own
 // ToHtml, which asks Aggregate, gives.
+// Each escaped character at every place of texts up to past two search widths, after text
+// already written: the runs around it are copied whole and nothing else changes.
+TEST(HtmlText, EscapesAtAnyPlaceOfAnyLength) {
+    const std::pair<char, const char*> escapes[] = {{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}};
+    for (std::size_t length = 1; length <= 40; ++length) {
+        for (std::size_t at = 0; at < length; ++at) {
+            for (const auto& [c, escaped] : escapes) {
+                std::string text(length, 'x');
+                text[at] = c;
+                std::string out = "<P>";
+                AppendEscaped(out, text);
+                EXPECT_EQ(
+                    out, "<P>" + std::string(at, 'x') + escaped + std::string(length - at - 1, 'x'))
+                    << length << " " << at;
+            }
+        }
+    }
+    std::string out;
+    AppendEscaped(out, "");
+    EXPECT_EQ(out, "");
+}
+
 TEST(ReportsOnTheSample, OnePassTotalsAgreeWithAggregate) {
     CGameDatabase db;
     ASSERT_EQ(db.Load(std::string(HW_SAMPLE_DIR) + "/valdoria.inf"), RESULT_DONE);
