@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <type_traits>
 
 namespace {
 
@@ -10,8 +11,6 @@ namespace {
 constexpr std::size_t kRoom = 400;
 
 constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
-constexpr unsigned long long kWholePowersOfTen[] = {
-    1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000, 1000000000};
 
 // magnitude * 10^decimals rounded to the nearest whole number, as printf rounds the exact
 // binary value, when the product is below 10^12 and not within a thousandth of a tie: then the
@@ -31,6 +30,39 @@ bool CertainScaled(double magnitude, int decimals, unsigned long long& scaled) {
     return true;
 }
 
+struct Split {
+    unsigned long long whole;
+    unsigned long long fraction;
+};
+
+// scaled / 10^decimals and the remainder, decimals from 0 to 9: by constants, which the compiler
+// turns into multiplications, where a division by a variable takes tens of cycles a number.
+Split SplitDecimals(unsigned long long scaled, int decimals) {
+    const auto by = [scaled](auto unit) { return Split{scaled / unit, scaled % unit}; };
+    switch (decimals) {
+        case 1:
+            return by(std::integral_constant<unsigned long long, 10>{});
+        case 2:
+            return by(std::integral_constant<unsigned long long, 100>{});
+        case 3:
+            return by(std::integral_constant<unsigned long long, 1000>{});
+        case 4:
+            return by(std::integral_constant<unsigned long long, 10000>{});
+        case 5:
+            return by(std::integral_constant<unsigned long long, 100000>{});
+        case 6:
+            return by(std::integral_constant<unsigned long long, 1000000>{});
+        case 7:
+            return by(std::integral_constant<unsigned long long, 10000000>{});
+        case 8:
+            return by(std::integral_constant<unsigned long long, 100000000>{});
+        case 9:
+            return by(std::integral_constant<unsigned long long, 1000000000>{});
+        default:
+            return {scaled, 0};
+    }
+}
+
 // Writes scaled / 10^decimals with its decimals digits after the point to buffer (32 characters
 // are enough) and returns the end; trailing zeros of the fraction (and then the point) dropped
 // when trim is set.
@@ -39,9 +71,9 @@ char* WriteScaled(char* buffer, bool negative, unsigned long long scaled, int de
     if (negative) {
         *end++ = '-';
     }
-    const unsigned long long unit = kWholePowersOfTen[decimals];
-    end = std::to_chars(end, buffer + 32, scaled / unit).ptr;
-    unsigned long long fraction = scaled % unit;
+    const auto [whole, remainder] = SplitDecimals(scaled, decimals);
+    end = std::to_chars(end, buffer + 32, whole).ptr;
+    unsigned long long fraction = remainder;
     int digits = decimals;
     if (trim) {
         while (digits > 0 && fraction % 10 == 0) {
