@@ -2,6 +2,7 @@
 
 #include "gamedata/GameRecords.h"
 #include "model/HtmlText.h"
+#include "model/LineWriter.h"
 #include "model/NumberText.h"
 #include "model/OobItem.h"
 #include "model/TextLines.h"
@@ -70,19 +71,17 @@ std::vector<CContainerTotals> AllTotals(const CTreeStore& tree) {
 
 void AppendContainerHtml(std::string& out, std::string_view name, const CContainerTotals& totals,
                          int flags) {
-    out += "<BIG><B><U>";
-    AppendEscaped(out, name);
-    out += "</U></B></BIG> <SMALL>(";
+    // The tags with the four parts' labels take under 200 characters.
+    constexpr std::size_t kTagsRoom = 200;
+    CLineWriter line(out, kTagsRoom + kEscapedRoom * name.size() + 4 * kGeneralRoom);
+    line.Text("<BIG><B><U>").Escaped(name).Text("</U></B></BIG> <SMALL>(");
     bool first = true;
-    auto part = [&out, &first](const char* label, double value) {
+    auto part = [&line, &first](std::string_view label, double value) {
         if (!first) {
-            out += ", ";
+            line.Text(", ");
         }
         first = false;
-        out += label;
-        out += " <B>";
-        AppendGeneral(out, value);
-        out += "</B>";
+        line.Text(label).Text(" <B>").General(value).Text("</B>");
     };
     if (totals.infantry != 0.0) {
         part("Infantry", totals.infantry);
@@ -96,5 +95,5 @@ void AppendContainerHtml(std::string& out, std::string_view name, const CContain
     if (flags & HTML_COSTS) {
         part("Cost", totals.cost);
     }
-    out += ")</SMALL>";
+    line.Text(")</SMALL>");
 }

@@ -1,5 +1,6 @@
 #include "model/HtmlText.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 
@@ -7,7 +8,7 @@
 
 namespace {
 
-const char* Escape(char c) {
+std::string_view Escape(char c) {
     switch (c) {
         case '&':
             return "&amp;";
@@ -16,7 +17,7 @@ const char* Escape(char c) {
         case '>':
             return "&gt;";
         default:
-            return nullptr;
+            return {};
     }
 }
 
@@ -45,16 +46,17 @@ const char* FindEscaped(const char* p, const char* end) {
 
 }  // namespace
 
-void AppendEscaped(std::string& out, std::string_view text) {
+char* WriteEscaped(char* to, std::string_view text) {
     // Names seldom hold a character to escape: the text goes in whole runs between them.
     const char* run = text.data();
     const char* const end = run + text.size();
     for (const char* p = FindEscaped(run, end); p != end; p = FindEscaped(run, end)) {
-        out.append(run, static_cast<std::size_t>(p - run));
-        out += Escape(*p);
+        to = std::copy(run, p, to);
+        const std::string_view escaped = Escape(*p);
+        to = std::copy(escaped.begin(), escaped.end(), to);
         run = p + 1;
     }
-    out.append(run, static_cast<std::size_t>(end - run));
+    return std::copy(run, end, to);
 }
 
 char GradeLetter(int grade) {

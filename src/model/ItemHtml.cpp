@@ -7,6 +7,7 @@
 #include "model/GunboatItem.h"
 #include "model/HtmlText.h"
 #include "model/LeaderItem.h"
+#include "model/LineWriter.h"
 #include "model/NumberText.h"
 #include "model/SupplyItem.h"
 #include "model/TextLines.h"
@@ -18,23 +19,27 @@ std::string_view KindText(const COobItem& item) {
     return item.m_pKind ? std::string_view(item.m_pKind->m_strName) : std::string_view();
 }
 
-void AppendCost(std::string& out, const COobItem& item, int flags) {
+// Each fragment is written by one line writer, grown by an upper bound of what it can take: the
+// fixed tags (never more than kTagsRoom), the texts escaped, the numbers.
+constexpr std::size_t kTagsRoom = 96;
+constexpr std::size_t kCostRoom = kGeneralRoom;
+
+void WriteCost(CLineWriter& line, const COobItem& item, int flags) {
     if (flags & HTML_COSTS) {
-        out += ", Cost <B>";
-        AppendGeneral(out, item.Cost());
-        out += "</B>";
+        line.Text(", Cost <B>").General(item.Cost()).Text("</B>");
     }
 }
 
-// name <SMALL>(kind text <B>number</B>
-void AppendNamedCount(std::string& out, const COobItem& item, long long number) {
-    out += "<DD>";
-    AppendEscaped(out, item.m_strName);
-    out += " <SMALL>(";
-    AppendEscaped(out, KindText(item));
-    out += " <B>";
-    AppendNumber(out, number);
-    out += "</B>";
+// name <SMALL>(kind text <B>number</B>, then what write adds, then ")</SMALL>"
+template <typename Write>
+void AppendNamedCount(std::string& out, const COobItem& item, std::int32_t number, Write write) {
+    const std::string_view kind = KindText(item);
+    CLineWriter line(out, kTagsRoom + kEscapedRoom * (item.m_strName.size() + kind.size()) +
+                              2 * CLineWriter::kNumberRoom + kCostRoom);
+    line.Text("<DD>").Escaped(item.m_strName).Text(" <SMALL>(").Escaped(kind);
+    line.Text(" <B>").Number(number).Text("</B>");
+    write(line);
+    line.Text(")</SMALL>");
 }
 
 }  // namespace
@@ -45,73 +50,66 @@ void CStructureItem::ToHtml(std::string& out, const CTreeStore& tree, HTREEITEM 
 }
 
 void CStructureItem::AppendHtml(std::string& out, const CContainerTotals& totals, int flags) const {
-    out += "<DD>";
-    if (flags & HTML_IMAGES) {
-        if (m_nType == TYPE_ARMY) {
-            out += "<IMG SRC=symbol_army.jpg> ";
-        } else {
-            out += "<IMG SRC=symbol_";
-            for (char c : KindText(*this)) {
-                out += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    const std::string_view kind = KindText(*this);
+    {
+        CLineWriter line(out, kTagsRoom + kind.size());
+        line.Text("<DD>");
+        if (flags & HTML_IMAGES) {
+            if (m_nType == TYPE_ARMY) {
+                line.Text("<IMG SRC=symbol_army.jpg> ");
+            } else {
+                line.Text("<IMG SRC=symbol_");
+                for (char c : kind) {
+                    line.Char(static_cast<char>(std::tolower(static_cast<unsigned char>(c))));
+                }
+                line.Text(".jpg> ");
             }
-            out += ".jpg> ";
         }
     }
     AppendContainerHtml(out, m_strName, totals, flags);
 }
 
 void CUnitItem::ToHtml(std::string& out, const CTreeStore&, HTREEITEM, int flags) const {
-    out += "<DD>";
+    const std::string_view base = m_pBaseType ? std::string_view(m_pBaseType->m_strName) : "";
+    CLineWriter line(out, kTagsRoom + kEscapedRoom * (m_strName.size() + base.size()) +
+                              2 * CLineWriter::kNumberRoom + kCostRoom);
+    line.Text("<DD>");
     if (flags & HTML_IMAGES) {
-        out += "<IMG SRC=symbol_unit.jpg> ";
+        line.Text("<IMG SRC=symbol_unit.jpg> ");
     }
-    AppendEscaped(out, m_strName);
-    out += " <SMALL>(";
-    if (m_pBaseType) {
-        AppendEscaped(out, m_pBaseType->m_strName);
-    }
-    out += " <B>";
-    AppendNumber(out, m_pBaseType ? m_pBaseType->m_nMenPerPoint * m_nStrength : 0);
-    out += "</B>, Q <B>";
-    AppendNumber(out, m_nQuality);
-    out += "</B>";
-    AppendCost(out, *this, flags);
-    out += ")</SMALL>";
+    line.Escaped(m_strName).Text(" <SMALL>(").Escaped(base).Text(" <B>");
+    line.Number(m_pBaseType ? m_pBaseType->m_nMenPerPoint * m_nStrength : 0);
+    line.Text("</B>, Q <B>").Number(m_nQuality).Text("</B>");
+    WriteCost(line, *this, flags);
+    line.Text(")</SMALL>");
 }
 
 void CLeaderItem::ToHtml(std::string& out, const CTreeStore&, HTREEITEM, int flags) const {
-    out += "<DD>";
+    CLineWriter line(out, kTagsRoom + kEscapedRoom * m_strName.size() + kCostRoom);
+    line.Text("<DD>");
     if (flags & HTML_IMAGES) {
-        out += "<IMG SRC=symbol_leader.jpg> ";
+        line.Text("<IMG SRC=symbol_leader.jpg> ");
     }
-    out += "<I>";
-    AppendEscaped(out, m_strName);
-    out += "</I> <SMALL>(<B>";
-    out += CommandLetter(m_pType ? std::string_view(m_pType->m_strType) : std::string_view());
-    out += "</B>, <B>";
-    out += GradeLetter(m_nLeadership);
-    out += "</B>";
-    AppendCost(out, *this, flags);
-    out += ")</SMALL>";
+    line.Text("<I>").Escaped(m_strName).Text("</I> <SMALL>(<B>");
+    line.Char(CommandLetter(m_pType ? std::string_view(m_pType->m_strType) : std::string_view()));
+    line.Text("</B>, <B>").Char(GradeLetter(m_nLeadership)).Text("</B>");
+    WriteCost(line, *this, flags);
+    line.Text(")</SMALL>");
 }
 
 void CSupplyItem::ToHtml(std::string& out, const CTreeStore&, HTREEITEM, int flags) const {
-    AppendNamedCount(out, *this, m_nSupply);
-    AppendCost(out, *this, flags);
-    out += ")</SMALL>";
+    AppendNamedCount(out, *this, m_nSupply,
+                     [this, flags](CLineWriter& line) { WriteCost(line, *this, flags); });
 }
 
 void CGunboatItem::ToHtml(std::string& out, const CTreeStore&, HTREEITEM, int flags) const {
-    AppendNamedCount(out, *this, m_nStrength);
-    out += ", Q <B>";
-    AppendNumber(out, m_nQuality);
-    out += "</B>";
-    AppendCost(out, *this, flags);
-    out += ")</SMALL>";
+    AppendNamedCount(out, *this, m_nStrength, [this, flags](CLineWriter& line) {
+        line.Text(", Q <B>").Number(m_nQuality).Text("</B>");
+        WriteCost(line, *this, flags);
+    });
 }
 
 // A depot shows no image and no cost, whatever the flags.
 void CDepotItem::ToHtml(std::string& out, const CTreeStore&, HTREEITEM, int) const {
-    AppendNamedCount(out, *this, m_nSupply);
-    out += ")</SMALL>";
+    AppendNamedCount(out, *this, m_nSupply, [](CLineWriter&) {});
 }

@@ -1,6 +1,6 @@
 // Builds a text line at the end of a string with plain stores: the writers of a million-line
-// file spend their time here. The string is grown once, by an upper bound of what the line can
-// take, and cut back to what was written when the writer goes.
+// file and the HTML report spend their time here. The string is grown once, by an upper bound of
+// what the line can take, and cut back to what was written when the writer goes.
 #pragma once
 
 #include <charconv>
@@ -9,6 +9,9 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+
+#include "model/HtmlText.h"
+#include "model/NumberText.h"
 
 class CLineWriter {
 public:
@@ -52,6 +55,18 @@ public:
     }
     CLineWriter& Number(std::int32_t value) {
         m_pNext = std::to_chars(m_pNext, m_pNext + kNumberRoom, value).ptr;
+        return *this;
+    }
+
+    // Text copied from the files into an HTML page, & < > escaped: room kEscapedRoom a
+    // character.
+    CLineWriter& Escaped(std::string_view text) {
+        m_pNext = WriteEscaped(m_pNext, text);
+        return *this;
+    }
+    // A number in printf's "%g" form: room kGeneralRoom.
+    CLineWriter& General(double value) {
+        m_pNext = WriteGeneral(m_pNext, value);
         return *this;
     }
 

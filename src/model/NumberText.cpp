@@ -112,7 +112,7 @@ void AppendExact(std::string& out, double value, std::chars_format format, int p
 
 }  // namespace
 
-void AppendGeneral(std::string& out, double value) {
+char* WriteGeneral(char* to, double value) {
     // "%g" writes a value from 10^-4 up to 10^6 (after rounding) in "%f" form with six
     // significant digits and no trailing zeros; that is the common case, done here directly.
     const double magnitude = std::fabs(value);
@@ -124,13 +124,12 @@ void AppendGeneral(std::string& out, double value) {
         unsigned long long scaled = 0;
         // A rounding up to 10^6 significant units would change the exponent: the exact path.
         if (CertainScaled(magnitude, 5 - exponent, scaled) && scaled < 1000000) {
-            char buffer[32];
-            out.append(buffer,
-                       WriteScaled(buffer, std::signbit(value), scaled, 5 - exponent, true));
-            return;
+            return WriteScaled(to, std::signbit(value), scaled, 5 - exponent, true);
         }
     }
-    AppendExact(out, value, std::chars_format::general, 6, 0);
+    // The exact path: to_chars gives what printf gives (see AppendExact); six significant digits
+    // and an exponent of at most three digits fit the room.
+    return std::to_chars(to, to + kGeneralRoom, value, std::chars_format::general, 6).ptr;
 }
 
 void AppendFixed(std::string& out, double value, int precision, std::size_t width) {

@@ -5,8 +5,11 @@
 #include <cstddef>
 #include <string>
 
-// Appends value as printf's "%g" writes it (six significant digits).
-void AppendGeneral(std::string& out, double value);
+// Room for any number in printf's "%g" form.
+constexpr std::size_t kGeneralRoom = 32;
+// Writes value as printf's "%g" writes it (six significant digits) from to, which has
+// kGeneralRoom characters, and returns the end.
+char* WriteGeneral(char* to, double value);
 
 // Appends value as printf's "%<width>.<precision>f" writes it: blanks before it up to width.
 void AppendFixed(std::string& out, double value, int precision, std::size_t width);

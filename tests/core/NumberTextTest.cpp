@@ -18,9 +18,8 @@ std::string Printf(const char* format, double value) {
 }
 
 std::string General(double value) {
-    std::string out = "<";
-    AppendGeneral(out, value);
-    return out;
+    char text[kGeneralRoom];
+    return "<" + std::string(text, WriteGeneral(text, value));
 }
 
 std::string Fixed(double value) {

@@ -3,6 +3,7 @@
 #include "ReportTree.h"
 #include "model/ContainerItems.h"
 #include "model/HtmlText.h"
+#include "model/LineWriter.h"
 #include "model/Result.h"
 #include "model/TextLines.h"
 
@@ -130,7 +131,7 @@ TEST(HtmlText, EscapesAtAnyPlaceOfAnyLength) {
                 std::string text(length, 'x');
                 text[at] = c;
                 std::string out = "<P>";
-                AppendEscaped(out, text);
+                CLineWriter(out, kEscapedRoom * text.size()).Escaped(text);
                 EXPECT_EQ(
                     out, "<P>" + std::string(at, 'x') + escaped + std::string(length - at - 1, 'x'))
                     << length << " " << at;
@@ -138,7 +139,7 @@ TEST(HtmlText, EscapesAtAnyPlaceOfAnyLength) {
         }
     }
     std::string out;
-    AppendEscaped(out, "");
+    CLineWriter(out, 0).Escaped("");
     EXPECT_EQ(out, "");
 }
 
