@@ -19,8 +19,8 @@
 namespace pool_detail {
 
 // Blocks come in steps of eight bytes, the alignment of everything the pool serves (pointers,
-// 64-bit integers and doubles; CPoolAllocator checks its element type): a tree entry of 56 bytes
-// or a name of 20 characters would waste a fifth of a 16-byte step.
+// 64-bit integers and doubles; CPoolAllocator checks its element type): in steps of sixteen, a
+// tree entry of 56 bytes would take 64, and a name of 20 characters 32 rather than 24.
 inline constexpr std::size_t kGranule = 8;
 inline constexpr std::size_t kLargestPooled = 512;
 
