@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <type_traits>
 
 namespace {
 
@@ -35,32 +34,19 @@ struct Split {
     unsigned long long fraction;
 };
 
+template <unsigned long long kUnit>
+Split SplitBy(unsigned long long scaled) {
+    return {scaled / kUnit, scaled % kUnit};
+}
+
 // scaled / 10^decimals and the remainder, decimals from 0 to 9: by constants, which the compiler
 // turns into multiplications, where a division by a variable takes tens of cycles a number.
 Split SplitDecimals(unsigned long long scaled, int decimals) {
-    const auto by = [scaled](auto unit) { return Split{scaled / unit, scaled % unit}; };
-    switch (decimals) {
-        case 1:
-            return by(std::integral_constant<unsigned long long, 10>{});
-        case 2:
-            return by(std::integral_constant<unsigned long long, 100>{});
-        case 3:
-            return by(std::integral_constant<unsigned long long, 1000>{});
-        case 4:
-            return by(std::integral_constant<unsigned long long, 10000>{});
-        case 5:
-            return by(std::integral_constant<unsigned long long, 100000>{});
-        case 6:
-            return by(std::integral_constant<unsigned long long, 1000000>{});
-        case 7:
-            return by(std::integral_constant<unsigned long long, 10000000>{});
-        case 8:
-            return by(std::integral_constant<unsigned long long, 100000000>{});
-        case 9:
-            return by(std::integral_constant<unsigned long long, 1000000000>{});
-        default:
-            return {scaled, 0};
-    }
+    static constexpr Split (*kSplits[])(unsigned long long) = {
+        SplitBy<1>,         SplitBy<10>,        SplitBy<100>,     SplitBy<1000>,
+        SplitBy<10000>,     SplitBy<100000>,    SplitBy<1000000>, SplitBy<10000000>,
+        SplitBy<100000000>, SplitBy<1000000000>};
+    return kSplits[decimals](scaled);
 }
 
 // Writes scaled / 10^decimals with its decimals digits after the point to buffer (32 characters
