@@ -57,7 +57,8 @@ void ApplyStrength(COobItem& item, std::int16_t added) {
 // The structures whose subtrees hold no men (their Aggregate of men is 0), found in one walk
 // rather than one walk of each structure's subtree: an entry's men go to the innermost structure
 // open above it, and a structure's total to the next one out when the walk leaves it. Men are
-// whole numbers, so the totals are exact whatever the order of the sums. Inner structures come
+// whole numbers below 2^30 an item, so the totals of any order of battle under eight million
+// entries are exact whatever the order of the sums. Inner structures come
 // before the structures that hold them, so removing them in this order never removes an entry
 // still to come.
 std::vector<HTREEITEM> StructuresWithoutMen(const CTreeStore& tree) {
