@@ -122,9 +122,11 @@ TEST(GameDatabase, LoadAndSaveKeepThePath) {
     CTempFolder folder;
     auto db = Parse(kGolden);
     const std::string missing = folder / "missing.inf";
+    // A path that names no file, or a folder, is refused and the lists stay as they were.
+    EXPECT_EQ(db->Load(folder.Path()), RESULT_CANNOT_OPEN);
     EXPECT_EQ(db->Load(missing), RESULT_CANNOT_OPEN);
     EXPECT_EQ(db->m_strFilePath, missing);
-    EXPECT_EQ(db->ToText(), kGolden);  // the lists stay as they were
+    EXPECT_EQ(db->ToText(), kGolden);
 
     const std::string path = folder / "target.inf";
     WriteBytes(path, "old");
