@@ -3,13 +3,8 @@
 #include "ReportTree.h"
 #include "TempFolder.h"
 #include "model/Result.h"
-#include "model/SupplyItem.h"
-#include "model/UnitItem.h"
 
 namespace {
-
-const char* const kFullShape =
-    "North(Chief First(Line Guns Wagons) Outer(Inner)) South(Staff(Aide Foot))";
 
 class GameImport : public CReportTree {
 protected:
@@ -30,65 +25,36 @@ protected:
         return m_doc.GetData(m_folder / "game.btl", m_tree, flags);
     }
 
-    std::int16_t Strength(const std::string& name) const {
-        COobItem* item = ItemOf(m_tree, Find(name));
-        return item->m_nType == TYPE_SUPPLY ? static_cast<CSupplyItem*>(item)->m_nSupply
-                                            : static_cast<CUnitItem*>(item)->m_nStrength;
-    }
-
     CTempFolder m_folder;
 };
 
+// A 0 moves nowhere and enters no child; the number after it enters the level below.
 TEST_F(GameImport, KeysNameEntriesByPosition) {
     const std::pair<const char*, const char*> cases[] = {
-        {"1", "North"},
-        {"2.", "South"},
-        {"1.2.3.", "Wagons"},
-        {"2.1.2.", "Foot"},
-        {"", "North"},
-        {"3.", "none"},
-        {"1.9", "none"},
-        {"1.2.9.4", "none"},
-        // A 0 moves nowhere and enters no child; the number after it enters the level below.
-        {"1.0.2", "First"},
-    };
+        {"1", "North"}, {"2.", "South"}, {"1.2.3.", "Wagons"}, {"2.1.2.", "Foot"}, {"", "North"},
+        {"3.", "none"}, {"1.9", "none"}, {"1.2.9.4", "none"},  {"1.0.2", "First"}};
     for (const auto& [key, name] : cases) {
         const HTREEITEM entry = m_doc.FindItemByKey(key, m_tree);
         EXPECT_EQ(entry ? m_tree.GetItemText(entry) : "none", name) << key;
     }
 }
 
-TEST_F(GameImport, UnmentionedEntriesUnderEachChoice) {
-    const std::string records = "1 1.2.1. 0 0 5\n2 0 0 0 0 0 0 0 0 0 1\n2.1.1.\n1 2.1.2 0 0 3\n";
-    struct Case {
-        int flags;
-        const char* shape;
-        std::int16_t wagons;
-    } cases[] = {
-        {0, kFullShape, 9},
-        {IMPORT_ZERO_MISSING, kFullShape, 0},
-        {IMPORT_REMOVE_MISSING, "North(First(Line) Outer(Inner)) South(Staff(Aide Foot))", -1},
-        // Empty structures go, and an empty structure holding only an empty one goes with it.
-        {IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY, "North(First(Line)) South(Staff(Aide Foot))",
-         -1},
+// "Remove" with "Remove empty structures" (the other choices are rows of the hostile game-file
+// table).
+TEST_F(GameImport, EmptyStructuresGoWithTheEntriesTheFileLacks) {
+    const std::pair<const char*, const char*> cases[] = {
+        // An empty structure holding only an empty one goes with it.
+        {"1 1.2.1. 0 0 5\n2 0 0 0 0 0 0 0 0 0 1\n2.1.1.\n1 2.1.2 0 0 3\n",
+         "North(First(Line)) South(Staff(Aide Foot))"},
+        // Only the leader of Staff is listed: its units go, and one man (the leader) keeps it.
+        {"2 0 0 0 0 0 0 0 0 0 1\n2.1.1\n", "North South(Staff(Aide))"},
     };
-    for (const Case& c : cases) {
+    for (const auto& [records, shape] : cases) {
         m_tree.DeleteAllItems();
         SetUp();
-        ASSERT_EQ(Import(records, c.flags), RESULT_DONE);
-        EXPECT_EQ(Shape(), c.shape) << c.flags;
-        if (c.wagons >= 0) {
-            EXPECT_EQ(Strength("Wagons"), c.wagons) << c.flags;
-            EXPECT_EQ(Strength("Guns"), c.flags & IMPORT_ZERO_MISSING ? 0 : 6);
-        }
+        ASSERT_EQ(Import(records, IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY), RESULT_DONE);
+        EXPECT_EQ(Shape(), shape) << records;
     }
-}
-
-TEST_F(GameImport, StructureKeptByItsLeaderAlone) {
-    // Only the leader of Staff is listed: its units go, and one man (the leader) keeps it.
-    ASSERT_EQ(Import("2 0 0 0 0 0 0 0 0 0 1\n2.1.1\n", IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY),
-              RESULT_DONE);
-    EXPECT_EQ(Shape(), "North South(Staff(Aide))");
 }
 
 // Men two levels down keep every structure above them; a structure beside them with none goes,

@@ -42,12 +42,11 @@ protected:
         std::string out = Shape();
         for (CTreeWalk walk(m_tree, nullptr); !walk.Done(); walk.Step()) {
             const COobItem* item = ItemOf(m_tree, walk.Current());
-            if (item->m_nType == TYPE_UNIT) {
-                out += " " + std::string(item->m_strName) + "=" +
-                       std::to_string(static_cast<const CUnitItem*>(item)->m_nStrength);
-            } else if (item->m_nType == TYPE_SUPPLY) {
-                out += " " + std::string(item->m_strName) + "=" +
-                       std::to_string(static_cast<const CSupplyItem*>(item)->m_nSupply);
+            if (item->m_nType == TYPE_UNIT || item->m_nType == TYPE_SUPPLY) {
+                const int strength = item->m_nType == TYPE_UNIT
+                                         ? static_cast<const CUnitItem*>(item)->m_nStrength
+                                         : static_cast<const CSupplyItem*>(item)->m_nSupply;
+                out += " " + std::string(item->m_strName) + "=" + std::to_string(strength);
             }
         }
         return out;

@@ -160,13 +160,18 @@ TEST(HostileOobFile, FileCutAtEveryByte) {
     }
 }
 
+// A path that names no file, or a folder, is refused by the file reader and by the template
+// reader, and the tree is left as it was.
 TEST(HostileOobFile, PathsThatAreNoFileAreRefused) {
     CTempFolder folder;
     COobDocument doc;
     CTreeStore tree;
     tree.InsertItem("kept", TVI_ROOT, TVI_LAST);
-    EXPECT_EQ(doc.LoadTree(folder / "missing.oob", tree), RESULT_CANNOT_OPEN);
-    EXPECT_EQ(doc.LoadTree(folder.Path(), tree), RESULT_CANNOT_OPEN);
+    for (const std::string& path : {folder / "missing.oob", folder.Path()}) {
+        EXPECT_EQ(doc.LoadTree(path, tree), RESULT_CANNOT_OPEN) << path;
+        EXPECT_EQ(doc.InsertTemplate(path, tree, TVI_ROOT, TVI_LAST, 0), RESULT_CANNOT_OPEN)
+            << path;
+    }
     EXPECT_EQ(Shape(tree), "kept");
 }
 

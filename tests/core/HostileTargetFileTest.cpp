@@ -6,10 +6,8 @@
 #include <string>
 
 #include "HostileInputs.h"
-#include "TempFolder.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
-#include "model/Result.h"
 #include "model/TextLines.h"
 
 namespace {
@@ -200,17 +198,6 @@ TEST(HostileTargetFile, FileCutAtEveryByte) {
     }
     CGameDatabase whole;
     EXPECT_EQ(Read(kSmall, whole), kSmallCounts);
-}
-
-// A path that names no file, or a folder, is refused and the database keeps what it held.
-TEST(HostileTargetFile, PathsThatAreNoFileAreRefused) {
-    CTempFolder folder;
-    CGameDatabase db;
-    Read(kSmall, db);
-    EXPECT_EQ(db.Load(folder / "missing.inf"), RESULT_CANNOT_OPEN);
-    EXPECT_EQ(db.Load(folder.Path()), RESULT_CANNOT_OPEN);
-    EXPECT_EQ(db.m_strName, "Marches");
-    EXPECT_EQ(Counts(db), kSmallCounts);
 }
 
 }  // namespace

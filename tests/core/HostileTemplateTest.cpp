@@ -155,16 +155,4 @@ TEST_F(HostileTemplate, FileCutAtEveryByte) {
     }
 }
 
-TEST_F(HostileTemplate, PathsThatAreNoFileAreRefused) {
-    CGameDatabase db;
-    COobDocument doc;
-    doc.m_pDatabase = &db;
-    CTreeStore tree;
-    tree.InsertItem("kept", TVI_ROOT, TVI_LAST);
-    EXPECT_EQ(doc.InsertTemplate(m_folder / "missing.tpl", tree, TVI_ROOT, TVI_LAST, 0),
-              RESULT_CANNOT_OPEN);
-    EXPECT_EQ(doc.InsertTemplate(m_folder.Path(), tree, TVI_ROOT, TVI_LAST, 0), RESULT_CANNOT_OPEN);
-    EXPECT_EQ(Shape(tree), "kept");
-}
-
 }  // namespace

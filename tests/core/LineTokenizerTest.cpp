@@ -125,11 +125,4 @@ TEST(LineTokenizer, TruncationKeepsTheLowBitsOfAnyValue) {
     EXPECT_EQ(StoreTruncated<std::int32_t>(NAN), 0);
 }
 
-TEST(LineTokenizer, MatchesPrefixOverTheShorterLength) {
-    EXPECT_TRUE(Tokenize(' ', "Army First Army").MatchesPrefix("Army"));
-    EXPECT_TRUE(Tokenize(' ', "Arm").MatchesPrefix("Army"));
-    EXPECT_TRUE(Tokenize(' ', "").MatchesPrefix("Army"));
-    EXPECT_FALSE(Tokenize(' ', "Corps First").MatchesPrefix("Army"));
-}
-
 }  // namespace

@@ -8,6 +8,7 @@
 #include <limits>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -31,38 +32,17 @@ std::string Fixed(double value) {
 // Values at the edges of the direct paths: ties and near-ties of the last digit, roundings that
 // carry into a new digit or exponent, the ends of the "%f" range of "%g", signed zero, values
 // too large or too small for the direct path, and those printf spells out.
-constexpr double kTricky[] = {0.0,
-                              -0.0,
-                              0.125,
-                              0.375,
-                              -0.001,
-                              0.005,
-                              1.005,
-                              2.5,
-                              9.9999995,
-                              99999.95,
-                              123456.5,
-                              999999.4,
-                              999999.5,
-                              1234565,
-                              9999995,
-                              0.0001,
-                              0.00009999995,
-                              0.000099999949,
-                              1e-5,
-                              1e10,
-                              9999999999.995,
-                              1e15,
-                              1e300,
-                              -1e-300,
-                              std::numeric_limits<double>::denorm_min(),
-                              std::numeric_limits<double>::quiet_NaN(),
-                              -std::numeric_limits<double>::quiet_NaN(),
-                              std::numeric_limits<double>::infinity(),
-                              -std::numeric_limits<double>::infinity()};
+constexpr double kTricky[] = {
+    0.0,           -0.0,           0.125,    0.375,    -0.001,         0.005,   1.005,   2.5,
+    9.9999995,     99999.95,       123456.5, 999999.4, 999999.5,       1234565, 9999995, 0.0001,
+    0.00009999995, 0.000099999949, 1e-5,     1e10,     9999999999.995, 1e15,    1e300,   -1e-300};
 
 TEST(NumberText, TrickyValuesAreWrittenAsPrintfWritesThem) {
-    for (double value : kTricky) {
+    using Limits = std::numeric_limits<double>;
+    std::vector<double> values(std::begin(kTricky), std::end(kTricky));
+    values.insert(values.end(), {Limits::denorm_min(), Limits::quiet_NaN(), -Limits::quiet_NaN(),
+                                 Limits::infinity(), -Limits::infinity()});
+    for (double value : values) {
         EXPECT_EQ(General(value), "<" + Printf("%g", value)) << Printf("%.17g", value);
         EXPECT_EQ(Fixed(value), "<" + Printf("%10.2f", value)) << Printf("%.17g", value);
     }

@@ -118,9 +118,6 @@ class Templates : public OobDocument {
 protected:
     void SetUp() override {
         OobDocument::SetUp();
-        m_strTwoBlocks =
-            File("two.tpl", "B First Brigade\r\n\tBegin\r\n\t" + kUnit +
-                                "First Foot\r\n\tEnd\r\n</T>\r\nS 20 12 Second Train\r\n</T>\r\n");
         Load("3\nA P\n\tBegin\n\t" + kUnit + "W\n\t" + kUnit + "X\n\t" + kUnit + "Y\n");
         m_hParent = Find("P");
     }
@@ -129,29 +126,22 @@ protected:
         return Shape(m_tree);
     }
 
-    std::string m_strTwoBlocks;
     HTREEITEM m_hParent = nullptr;
 };
 
-TEST_F(Templates, OrdinalChoosesTheBlock) {
-    EXPECT_EQ(Insert(m_strTwoBlocks, 1), "P(W X Y Second Train)");
-    EXPECT_EQ(Insert(m_strTwoBlocks, 0, TVI_FIRST),
-              "P(First Brigade(First Foot) W X Y Second Train)");
-    EXPECT_EQ(Insert(m_strTwoBlocks, 2), "P(First Brigade(First Foot) W X Y Second Train)");
-    EXPECT_EQ(std::string(m_doc.m_strName), m_folder / "in.oob");  // inserting names no file
-}
-
-// A file without an end tag is inserted to its end; the first top-level item goes right after
-// the given sibling, the others last.
-TEST_F(Templates, FurtherTopLevelItemsGoLast) {
-    const std::string path = File("pair.tpl", kUnit + "one\r\n" + kUnit + "two\r\n");
-    EXPECT_EQ(Insert(path, 0, Find("X")), "P(W X one Y two)");
-}
-
-// An item at a level no container opened hangs under the caller's parent.
-TEST_F(Templates, ItemsUnderUnopenedLevelsHangUnderTheCallersParent) {
+// The chosen block's first top-level item goes right after the given sibling, the others
+// last (the choice of block is rows of the hostile template table); an item at a level no
+// container opened hangs under the caller's parent. A file without an end tag is inserted to its
+// end, and inserting names no file.
+TEST_F(Templates, TopLevelItemsGoAfterTheSiblingThenLast) {
+    const std::string second = File("two.tpl", "A Other\r\n</T>\r\n" + kUnit + "one\r\n" + kUnit +
+                                                   "two\r\n</T>\r\n" + kUnit + "three\r\n");
+    EXPECT_EQ(Insert(second, 1, Find("X")), "P(W X one Y two)");
+    EXPECT_EQ(Insert(File("pair.tpl", kUnit + "a\r\n" + kUnit + "b\r\n"), 0, TVI_FIRST),
+              "P(a W X one Y two b)");
     EXPECT_EQ(Insert(File("deep.tpl", "Begin\nBegin\n" + kUnit + "orphan\n"), 0),
-              "P(W X Y orphan)");
+              "P(a W X one Y two b orphan)");
+    EXPECT_EQ(std::string(m_doc.m_strName), m_folder / "in.oob");
     CTreeStore tree;
     ASSERT_EQ(m_doc.LoadTree(File("deep.oob", "3\nA Army\nBegin\nBegin\n" + kUnit + "x\n"), tree),
               RESULT_DONE);

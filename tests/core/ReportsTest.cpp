@@ -119,8 +119,6 @@ TEST_F(Reports, HtmlListsNestAndShowTotals) {
     EXPECT_EQ(m_doc.HtmlReport(m_tree, HTML_COSTS).find("<IMG"), std::string::npos);
 }
 
-// The report sums every container's totals in one pass; each line must be what the item's own
-// ToHtml, which asks Aggregate, gives.
 // Each escaped character at every place of texts up to past two search widths, after text
 // already written: the runs around it are copied whole and nothing else changes.
 TEST(HtmlText, EscapesAtAnyPlaceOfAnyLength) {
@@ -143,6 +141,8 @@ TEST(HtmlText, EscapesAtAnyPlaceOfAnyLength) {
     EXPECT_EQ(out, "");
 }
 
+// The report sums every container's totals in one pass; each line must be what the item's own
+// ToHtml, which asks Aggregate, gives.
 TEST(ReportsOnTheSample, OnePassTotalsAgreeWithAggregate) {
     CGameDatabase db;
     ASSERT_EQ(db.Load(std::string(HW_SAMPLE_DIR) + "/valdoria.inf"), RESULT_DONE);

@@ -3,7 +3,6 @@
 // byte for byte (the workspace and target files are written back by the File and CLI tests).
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 
 #include "SmallGameData.h"
@@ -19,20 +18,6 @@
 namespace {
 
 const std::string kSample = HW_SAMPLE_DIR "/";
-
-// Every line of an order-of-battle file but the header and the block lines makes an entry.
-std::size_t CountItemLines(const std::string& text) {
-    std::istringstream in(text);
-    std::string line;
-    std::getline(in, line);
-    std::size_t count = 0;
-    while (std::getline(in, line)) {
-        const std::size_t start = line.find_first_not_of('\t');
-        const std::string word = line.substr(start, line.find('\r') - start);
-        count += word != "Begin" && word != "End";
-    }
-    return count;
-}
 
 class SampleWorkspace : public ::testing::Test {
 protected:
@@ -51,8 +36,8 @@ protected:
     COobDocument m_document;
 };
 
-// The campaign and the attached order of battle: every line an entry with all its records,
-// nothing added to the game data, and the tree written back as the file stands.
+// The campaign and the attached order of battle: every entry with all its records, nothing added
+// to the game data, and the tree written back as the file stands (so every line made an entry).
 TEST_F(SampleWorkspace, OrdersOfBattleReadCompletelyAndWriteBack) {
     const auto* attached =
         static_cast<const CAttachedOobRecord*>(m_database.m_AttachedOobs.Head()->m_pPayload.get());
@@ -62,7 +47,6 @@ TEST_F(SampleWorkspace, OrdersOfBattleReadCompletelyAndWriteBack) {
         const std::string bytes = ReadBytes(kSample + name);
         CTreeStore tree;
         ASSERT_EQ(m_document.LoadTree(kSample + name, tree), RESULT_DONE);
-        EXPECT_EQ(tree.GetCount(), CountItemLines(bytes));
         int counts[TYPE_GUNBOAT + 1] = {};
         for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
             const COobItem* item = ItemOf(tree, walk.Current());

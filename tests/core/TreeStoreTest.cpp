@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "TestTrees.h"
+#include "model/TreeWalk.h"
 
 namespace {
 
@@ -158,16 +159,20 @@ TEST(TreeStore, ObserverSeesTheStoreBeforeAndAfterEveryChange) {
     EXPECT_EQ(observer.m_log, expected);
 }
 
-TEST(TreeStore, DeletesAVeryDeepChainWithoutRecursion) {
+// Neither the walk nor the delete recurses into the chain.
+TEST(TreeStore, WalksAndDeletesAVeryDeepChain) {
     constexpr int kDepth = 100000;
     int destroyed = 0;
+    int deepest = 0;
     CTreeStore tree;
     HTREEITEM top = BuildChain(tree, kDepth);
-    for (HTREEITEM e = top; e; e = tree.GetChildItem(e)) {
-        tree.SetItemData(e, std::make_unique<CCountedData>(destroyed));
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        tree.SetItemData(walk.Current(), std::make_unique<CCountedData>(destroyed));
+        deepest = walk.Depth();
     }
+    EXPECT_EQ(deepest, kDepth - 1);
     EXPECT_TRUE(tree.DeleteItem(top));
-    EXPECT_EQ(destroyed, kDepth);
+    EXPECT_EQ(destroyed, kDepth);  // every entry walked and deleted
     EXPECT_EQ(tree.GetCount(), 0u);
     BuildChain(tree, kDepth);  // left for the store's destructor
 }

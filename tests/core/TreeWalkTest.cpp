@@ -69,18 +69,4 @@ TEST_F(TreeWalk, WalksTheWholeTreeOrOneSubtree) {
     EXPECT_TRUE(CTreeWalk(empty, nullptr).Done());
 }
 
-TEST(TreeWalkDeep, WalksAVeryDeepChain) {
-    constexpr int kDepth = 100000;
-    CTreeStore tree;
-    BuildChain(tree, kDepth);
-    int visited = 0;
-    int deepest = 0;
-    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
-        ++visited;
-        deepest = walk.Depth();
-    }
-    EXPECT_EQ(visited, kDepth);
-    EXPECT_EQ(deepest, kDepth - 1);
-}
-
 }  // namespace
