@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/TreeWalk.h"
 #include "model/OobItem.h"
-#include "model/TreeWalk.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <string>
 
-#include "platform/TreeStore.h"
+#include "base/TreeStore.h"
 
 // The target file's bytes.
 std::string MakeBenchTarget();

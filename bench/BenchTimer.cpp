@@ -2,7 +2,7 @@
 
 #include <malloc.h>
 
-#include "platform/SmallObjectPool.h"
+#include "base/SmallObjectPool.h"
 
 #include <algorithm>
 #include <chrono>

@@ -12,10 +12,10 @@
 
 #include "BenchData.h"
 #include "BenchTimer.h"
+#include "base/Result.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
-#include "model/Result.h"
 
 namespace {
 

@@ -12,12 +12,12 @@
 #include <system_error>
 #include <vector>
 
+#include "base/Result.h"
+#include "base/TextLines.h"
+#include "base/TreeWalk.h"
 #include "gamedata/GameRecords.h"
 #include "model/ContainerItems.h"
 #include "model/OobItem.h"
-#include "model/Result.h"
-#include "model/TextLines.h"
-#include "model/TreeWalk.h"
 
 namespace {
 

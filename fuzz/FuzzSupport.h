@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/TreeStore.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
-#include "platform/TreeStore.h"
 
 // A broken invariant is a finding like a crash: the message names it, and abort() makes the
 // fuzzer keep the input.

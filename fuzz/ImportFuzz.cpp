@@ -6,9 +6,9 @@
 #include <string>
 
 #include "FuzzSupport.h"
+#include "base/Result.h"
 #include "model/ContainerItems.h"
 #include "model/OobItem.h"
-#include "model/Result.h"
 #include "model/SupplyItem.h"
 #include "model/UnitItem.h"
 

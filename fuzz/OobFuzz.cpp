@@ -5,9 +5,9 @@
 #include <cstdint>
 
 #include "FuzzSupport.h"
+#include "base/LineStore.h"
+#include "base/Result.h"
 #include "model/OobItem.h"
-#include "model/Result.h"
-#include "platform/LineStore.h"
 
 namespace {
 

@@ -7,10 +7,10 @@
 #include <string>
 
 #include "FuzzSupport.h"
+#include "base/Result.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
-#include "model/Result.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::istringstream input(std::string(reinterpret_cast<const char*>(data), size));

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "FuzzSupport.h"
-#include "model/Result.h"
+#include "base/Result.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "FuzzSupport.h"
-#include "model/LineTokenizer.h"
+#include "base/LineTokenizer.h"
 
 namespace {
 

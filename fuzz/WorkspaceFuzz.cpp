@@ -6,7 +6,7 @@
 #include <string>
 
 #include "FuzzSupport.h"
-#include "app/Workspace.h"
+#include "model/Workspace.h"
 
 namespace {
 

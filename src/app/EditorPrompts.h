@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "model/ReaderPrompts.h"
+#include "gamedata/ReaderPrompts.h"
 
 class CDialog;
 

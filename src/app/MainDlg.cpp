@@ -3,10 +3,10 @@
 #include <fstream>
 #include <istream>
 
-#include "app/Workspace.h"
 #include "dialogs/AboutDlg.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
+#include "model/Workspace.h"
 #include "platform/DataExchange.h"
 #include "resources/ResourceIds.h"
 #include "resources/Resources.h"

@@ -1,15 +1,15 @@
 // The File commands: New (empty, existing, attached), Load, Save, Save as and Properties, and
 // the helpers they share.
 #include "app/MainDlg.h"
-#include "app/Workspace.h"
+#include "base/FileWriter.h"
+#include "base/Result.h"
+#include "base/TextLines.h"
 #include "dialogs/AttachedDlg.h"
 #include "dialogs/WorkspaceDlg.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
-#include "model/FileWriter.h"
 #include "model/OobDocument.h"
-#include "model/Result.h"
-#include "model/TextLines.h"
+#include "model/Workspace.h"
 #include "platform/FileDialog.h"
 
 namespace {

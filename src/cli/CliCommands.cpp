@@ -4,15 +4,15 @@
 #include <string>
 #include <vector>
 
+#include "base/FileWriter.h"
+#include "base/Result.h"
+#include "base/TextLines.h"
+#include "base/TreeWalk.h"
 #include "cli/CliPrompts.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
-#include "model/FileWriter.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
-#include "model/Result.h"
-#include "model/TextLines.h"
-#include "model/TreeWalk.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "model/ReaderPrompts.h"
+#include "gamedata/ReaderPrompts.h"
 
 class CCliPrompts : public CReaderPrompts {
 public:

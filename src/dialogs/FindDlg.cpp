@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "model/TreeWalk.h"
+#include "base/TreeWalk.h"
 #include "platform/DataExchange.h"
 #include "resources/ResourceIds.h"
 #include "resources/Resources.h"

@@ -1,8 +1,8 @@
 #include "dialogs/WorkspaceDlg.h"
 
-#include "app/Workspace.h"
-#include "model/FileWriter.h"
-#include "model/Result.h"
+#include "base/FileWriter.h"
+#include "base/Result.h"
+#include "model/Workspace.h"
 #include "platform/DataExchange.h"
 #include "platform/FileDialog.h"
 #include "resources/ResourceIds.h"

@@ -5,8 +5,8 @@
 #include <array>
 #include <cstdint>
 
+#include "base/DataList.h"
 #include "gamedata/GameRecords.h"
-#include "model/DataList.h"
 
 class CBaseTypeIndex {
 public:

@@ -3,12 +3,12 @@
 #include <fstream>
 #include <sstream>
 
+#include "base/FileWriter.h"
+#include "base/LineCut.h"
+#include "base/LineTokenizer.h"
+#include "base/Result.h"
+#include "base/TextLines.h"
 #include "gamedata/GameRecords.h"
-#include "model/FileWriter.h"
-#include "model/LineCut.h"
-#include "model/LineTokenizer.h"
-#include "model/Result.h"
-#include "model/TextLines.h"
 
 namespace {
 

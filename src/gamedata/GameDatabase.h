@@ -7,10 +7,10 @@
 #include <cstdint>
 #include <string>
 
+#include "base/DataList.h"
+#include "base/DataObject.h"
 #include "gamedata/BaseTypeIndex.h"
 #include "gamedata/KindIndex.h"
-#include "model/DataList.h"
-#include "model/DataObject.h"
 
 class CReaderPrompts;
 

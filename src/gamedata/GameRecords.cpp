@@ -3,8 +3,8 @@
 #include <istream>
 #include <ostream>
 
-#include "model/LineTokenizer.h"
-#include "model/TextLines.h"
+#include "base/LineTokenizer.h"
+#include "base/TextLines.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <memory>
 #include <string>
 
-#include "model/DataList.h"
-#include "model/DataObject.h"
+#include "base/DataList.h"
+#include "base/DataObject.h"
 
 class CLineTokenizer;
 

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/DataList.h"
+#include "base/LineTokenizer.h"
 #include "gamedata/GameRecords.h"
-#include "model/DataList.h"
-#include "model/LineTokenizer.h"
 
 class CKindIndex {
 public:

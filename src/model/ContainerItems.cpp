@@ -1,9 +1,9 @@
 #include "model/ContainerItems.h"
 
+#include "base/TextLines.h"
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
 #include "model/SupplyItem.h"
-#include "model/TextLines.h"
 
 void CStructureItem::ReadFields(CItemLineReader& reader) {
     FindRecordsByKeyword(*this);

@@ -1,12 +1,12 @@
 #include "model/ContainerTotals.h"
 
+#include "base/HtmlText.h"
+#include "base/LineWriter.h"
+#include "base/NumberText.h"
+#include "base/TextLines.h"
+#include "base/TreeWalk.h"
 #include "gamedata/GameRecords.h"
-#include "model/HtmlText.h"
-#include "model/LineWriter.h"
-#include "model/NumberText.h"
 #include "model/OobItem.h"
-#include "model/TextLines.h"
-#include "model/TreeWalk.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/TreeStore.h"
+#include "base/TreeStore.h"
 
 struct CContainerTotals {
     double infantry = 0.0;   // men of class 1

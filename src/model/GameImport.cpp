@@ -4,14 +4,14 @@
 #include <fstream>
 #include <vector>
 
+#include "base/LineTokenizer.h"
+#include "base/Result.h"
+#include "base/TextLines.h"
+#include "base/TreeWalk.h"
 #include "model/ContainerItems.h"
 #include "model/ItemLineReader.h"
-#include "model/LineTokenizer.h"
 #include "model/OobDocument.h"
-#include "model/Result.h"
 #include "model/SupplyItem.h"
-#include "model/TextLines.h"
-#include "model/TreeWalk.h"
 #include "model/UnitItem.h"
 
 namespace {

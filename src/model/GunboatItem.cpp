@@ -1,10 +1,10 @@
 #include "model/GunboatItem.h"
 
+#include "base/LineWriter.h"
+#include "base/TextLines.h"
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
-#include "model/LineWriter.h"
 #include "model/SupplyItem.h"
-#include "model/TextLines.h"
 #include "model/UnitItem.h"
 
 void CGunboatItem::ReadFields(CItemLineReader& reader) {

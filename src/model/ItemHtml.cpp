@@ -1,16 +1,16 @@
 // The HTML fragment of each item kind: one line of the HTML report.
 #include <cctype>
 
+#include "base/HtmlText.h"
+#include "base/LineWriter.h"
+#include "base/NumberText.h"
+#include "base/TextLines.h"
 #include "gamedata/GameRecords.h"
 #include "model/ContainerItems.h"
 #include "model/ContainerTotals.h"
 #include "model/GunboatItem.h"
-#include "model/HtmlText.h"
 #include "model/LeaderItem.h"
-#include "model/LineWriter.h"
-#include "model/NumberText.h"
 #include "model/SupplyItem.h"
-#include "model/TextLines.h"
 #include "model/UnitItem.h"
 
 namespace {

@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/DataObject.h"
+#include "base/LineTokenizer.h"
 #include "gamedata/GameRecords.h"
-#include "model/DataObject.h"
-#include "model/LineTokenizer.h"
 
 class CItemLineReader {
 public:

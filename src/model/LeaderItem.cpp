@@ -2,10 +2,10 @@
 
 #include <cstdlib>
 
+#include "base/LineWriter.h"
+#include "base/TextLines.h"
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
-#include "model/LineWriter.h"
-#include "model/TextLines.h"
 
 void CLeaderItem::ReadFields(CItemLineReader& reader) {
     const std::string_view typeName = reader.Word();

@@ -7,18 +7,18 @@
 #include <memory>
 #include <string_view>
 
+#include "base/FileWriter.h"
+#include "base/LineCut.h"
+#include "base/LineTokenizer.h"
+#include "base/Result.h"
+#include "base/TextLines.h"
+#include "base/TreeWalk.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/ContainerItems.h"
-#include "model/FileWriter.h"
 #include "model/ItemFactory.h"
 #include "model/ItemLineReader.h"
 #include "model/LeaderItem.h"
-#include "model/LineCut.h"
-#include "model/LineTokenizer.h"
-#include "model/Result.h"
-#include "model/TextLines.h"
-#include "model/TreeWalk.h"
 
 namespace {
 

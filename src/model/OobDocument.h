@@ -8,10 +8,10 @@
 #include <iosfwd>
 #include <string>
 
-#include "model/DataObject.h"
-#include "model/LineTokenizer.h"
-#include "platform/LineStore.h"
-#include "platform/TreeStore.h"
+#include "base/DataObject.h"
+#include "base/LineStore.h"
+#include "base/LineTokenizer.h"
+#include "base/TreeStore.h"
 
 class CGameDatabase;
 

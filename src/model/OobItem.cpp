@@ -1,10 +1,10 @@
 #include "model/OobItem.h"
 
+#include "base/LineTokenizer.h"
+#include "base/TreeWalk.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
-#include "model/LineTokenizer.h"
-#include "model/TreeWalk.h"
 
 void COobItem::Read(const std::string& line) {
     CLineTokenizer tokenizer;

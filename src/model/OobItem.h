@@ -8,11 +8,11 @@
 #include <string>
 #include <string_view>
 
+#include "base/DataObject.h"
+#include "base/SmallObjectPool.h"
+#include "base/TreeStore.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
-#include "model/DataObject.h"
-#include "platform/SmallObjectPool.h"
-#include "platform/TreeStore.h"
 
 class CItemLineReader;
 

@@ -1,16 +1,16 @@
 // The four reports of the order of battle: an HTML page and the cost, leader and key listings.
 #include <vector>
 
+#include "base/FileWriter.h"
+#include "base/HtmlText.h"
+#include "base/NumberText.h"
+#include "base/TextLines.h"
+#include "base/TreeWalk.h"
 #include "gamedata/GameRecords.h"
 #include "model/ContainerItems.h"
 #include "model/ContainerTotals.h"
-#include "model/FileWriter.h"
-#include "model/HtmlText.h"
 #include "model/LeaderItem.h"
-#include "model/NumberText.h"
 #include "model/OobDocument.h"
-#include "model/TextLines.h"
-#include "model/TreeWalk.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "model/SupplyItem.h"
 
+#include "base/LineWriter.h"
+#include "base/TextLines.h"
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
-#include "model/LineWriter.h"
-#include "model/TextLines.h"
 
 void FindRecordsByKeyword(COobItem& item) {
     item.m_pType = item.m_pKind ? item.FindType(item.m_pKind->m_strKeyword) : nullptr;

@@ -2,12 +2,12 @@
 
 #include <cstdlib>
 
+#include "base/LineWriter.h"
+#include "base/TextLines.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
+#include "gamedata/ReaderPrompts.h"
 #include "model/ItemLineReader.h"
-#include "model/LineWriter.h"
-#include "model/ReaderPrompts.h"
-#include "model/TextLines.h"
 
 void CUnitItem::ReadFields(CItemLineReader& reader) {
     m_nStrength = reader.Number<std::int16_t>();

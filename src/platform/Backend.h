@@ -6,10 +6,10 @@
 #include <memory>
 #include <string>
 
+#include "base/TreeStore.h"
 #include "platform/DialogTemplate.h"
 #include "platform/Geometry.h"
 #include "platform/PixelImage.h"
-#include "platform/TreeStore.h"
 
 class CDialog;
 class CFileDialog;

@@ -3,8 +3,8 @@
 // store that the window shows.
 #pragma once
 
-#include "platform/LineStore.h"
-#include "platform/TreeStore.h"
+#include "base/LineStore.h"
+#include "base/TreeStore.h"
 
 class CListBox : public CLineStore {};
 class CComboBox : public CLineStore {};

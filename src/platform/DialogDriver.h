@@ -5,8 +5,8 @@
 
 #include <string>
 
+#include "base/TreeStore.h"
 #include "platform/PaintDC.h"
-#include "platform/TreeStore.h"
 
 class CDialog;
 

@@ -8,10 +8,10 @@
 #include <memory>
 #include <string>
 
+#include "base/LineStore.h"
+#include "base/TreeStore.h"
 #include "platform/DialogTemplate.h"
 #include "platform/Geometry.h"
-#include "platform/LineStore.h"
-#include "platform/TreeStore.h"
 
 class CDialog;
 

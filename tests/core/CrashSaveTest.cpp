@@ -13,9 +13,9 @@
 #include <thread>
 
 #include "TempFolder.h"
+#include "base/Result.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
-#include "model/Result.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "model/DataList.h"
+#include "base/DataList.h"
 
 #include <gtest/gtest.h>
 

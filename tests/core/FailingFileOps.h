@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "model/FileOps.h"
+#include "base/FileOps.h"
 
 // Which operations of a run fail: number k alone, or k and every one after it.
 struct CFault {

@@ -1,4 +1,4 @@
-#include "model/FileWriter.h"
+#include "base/FileWriter.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -14,7 +14,7 @@
 
 #include "FailingFileOps.h"
 #include "TempFolder.h"
-#include "model/Result.h"
+#include "base/Result.h"
 
 namespace {
 

@@ -8,9 +8,9 @@
 
 #include "HostileInputs.h"
 #include "TempFolder.h"
+#include "base/Result.h"
+#include "base/TextLines.h"
 #include "gamedata/GameRecords.h"
-#include "model/Result.h"
-#include "model/TextLines.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "ReportTree.h"
 #include "TempFolder.h"
-#include "model/Result.h"
+#include "base/Result.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include "HostileInputs.h"
 #include "ReportTree.h"
 #include "TempFolder.h"
-#include "model/Result.h"
+#include "base/Result.h"
 #include "model/SupplyItem.h"
 #include "model/UnitItem.h"
 

@@ -6,9 +6,9 @@
 #include <string>
 
 #include "HostileInputs.h"
+#include "base/TextLines.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
-#include "model/TextLines.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include "SmallGameData.h"
 #include "TempFolder.h"
 #include "TestTrees.h"
+#include "base/Result.h"
 #include "model/OobDocument.h"
-#include "model/Result.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include "HostileInputs.h"
 #include "TempFolder.h"
 #include "WorkspaceFields.h"
-#include "app/Workspace.h"
-#include "model/Result.h"
+#include "base/Result.h"
+#include "model/Workspace.h"
 
 namespace {
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "SmallGameData.h"
+#include "base/TextLines.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/ContainerItems.h"
@@ -13,7 +14,6 @@
 #include "model/ItemFactory.h"
 #include "model/LeaderItem.h"
 #include "model/SupplyItem.h"
-#include "model/TextLines.h"
 #include "model/UnitItem.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "model/LineCut.h"
+#include "base/LineCut.h"
 
 #include <gtest/gtest.h>
 

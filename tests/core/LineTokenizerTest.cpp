@@ -1,4 +1,4 @@
-#include "model/LineTokenizer.h"
+#include "base/LineTokenizer.h"
 
 #include <gtest/gtest.h>
 

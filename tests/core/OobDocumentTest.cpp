@@ -11,9 +11,9 @@
 #include "SmallGameData.h"
 #include "TempFolder.h"
 #include "TestTrees.h"
+#include "base/Result.h"
 #include "gamedata/GameRecords.h"
 #include "model/LeaderItem.h"
-#include "model/Result.h"
 
 namespace {
 

@@ -23,8 +23,8 @@
 
 #include "SampleWriters.h"
 #include "TempFolder.h"
-#include "model/FileWriter.h"
-#include "model/Result.h"
+#include "base/FileWriter.h"
+#include "base/Result.h"
 
 namespace {
 

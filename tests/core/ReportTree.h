@@ -9,11 +9,11 @@
 #include <vector>
 
 #include "TestTrees.h"
+#include "base/LineStore.h"
+#include "base/TreeWalk.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
-#include "model/TreeWalk.h"
-#include "platform/LineStore.h"
 
 // Infantry: 5 men a point, cost 2 a man, modifier 1.5 at quality 2 (15 a strength point).
 // Cavalry: 4 men, cost 3. Artillery: 2 men, cost 4. Leaders cost 10 at leadership 3.

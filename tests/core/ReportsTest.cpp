@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "ReportTree.h"
+#include "base/HtmlText.h"
+#include "base/LineWriter.h"
+#include "base/Result.h"
+#include "base/TextLines.h"
 #include "model/ContainerItems.h"
-#include "model/HtmlText.h"
-#include "model/LineWriter.h"
-#include "model/Result.h"
-#include "model/TextLines.h"
 
 namespace {
 

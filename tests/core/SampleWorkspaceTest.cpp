@@ -7,13 +7,13 @@
 
 #include "SmallGameData.h"
 #include "TempFolder.h"
+#include "base/Result.h"
+#include "base/TextLines.h"
+#include "base/TreeWalk.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
-#include "model/Result.h"
-#include "model/TextLines.h"
-#include "model/TreeWalk.h"
 
 namespace {
 

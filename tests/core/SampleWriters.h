@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "app/Workspace.h"
+#include "base/TreeStore.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
-#include "platform/TreeStore.h"
+#include "model/Workspace.h"
 
 struct CSampleFiles {
     CSampleFiles() {

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "gamedata/GameDatabase.h"
-#include "model/ReaderPrompts.h"
+#include "gamedata/ReaderPrompts.h"
 
 // OOB header 3, format variant 0, fanatic bonus 0.5.
 inline const char* const kSmallGameData =

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/TreeStore.h"
+#include "base/TreeStore.h"
 
 // Builds a tree from labels in pre-order, each indented by one blank per level. Returns the
 // entries by label.

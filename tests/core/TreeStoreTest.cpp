@@ -1,4 +1,4 @@
-#include "platform/TreeStore.h"
+#include "base/TreeStore.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "TestTrees.h"
-#include "model/TreeWalk.h"
+#include "base/TreeWalk.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "model/TreeWalk.h"
+#include "base/TreeWalk.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "app/Workspace.h"
+#include "model/Workspace.h"
 
 inline std::string Fields(const CWorkspace& w) {
     std::string out = w.m_strTitle + "|" + w.m_strOobFile + "|" + w.m_strBackupFile + "|" +

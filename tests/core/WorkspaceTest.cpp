@@ -1,6 +1,6 @@
 // The workspace file: nine lines of bar-ended fields, written with CR LF and read through the
 // bar tokenizer, whose normalisation decides what odd lines read as.
-#include "app/Workspace.h"
+#include "model/Workspace.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 #include "TempFolder.h"
 #include "WorkspaceFields.h"
-#include "model/Result.h"
+#include "base/Result.h"
 
 namespace {
 

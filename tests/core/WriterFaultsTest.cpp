@@ -6,8 +6,8 @@
 #include "FailingFileOps.h"
 #include "SampleWriters.h"
 #include "TempFolder.h"
-#include "model/FileWriter.h"
-#include "model/Result.h"
+#include "base/FileWriter.h"
+#include "base/Result.h"
 
 namespace {
 

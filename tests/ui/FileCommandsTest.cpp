@@ -5,8 +5,8 @@
 #include <filesystem>
 
 #include "MainWindowFixture.h"
-#include "app/Workspace.h"
 #include "gamedata/GameRecords.h"
+#include "model/Workspace.h"
 
 namespace {
 

@@ -12,10 +12,10 @@
 #include "HeadlessTest.h"
 #include "UiFolder.h"
 #include "app/MainDlg.h"
+#include "base/TreeWalk.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
-#include "model/TreeWalk.h"
 #include "resources/ResourceIds.h"
 
 using Script = std::function<void(CHeadlessUser&)>;

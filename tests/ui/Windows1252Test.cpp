@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/Windows1252.h"
+#include "base/Windows1252.h"
 
 // Every byte has a character and back; the high punctuation maps, and what cannot be held is
 // refused, leaving the bytes as they were.

@@ -4,8 +4,8 @@
 
 #include "HeadlessTest.h"
 #include "UiFolder.h"
-#include "app/Workspace.h"
 #include "dialogs/WorkspaceDlg.h"
+#include "model/Workspace.h"
 #include "resources/ResourceIds.h"
 
 namespace {

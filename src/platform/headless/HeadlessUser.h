@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
+#include "base/TreeStore.h"
 #include "platform/DialogDriver.h"
-#include "platform/TreeStore.h"
 #include "platform/headless/RecordingPaintDC.h"
 
 class CDialog;

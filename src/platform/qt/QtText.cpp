@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-#include "platform/Windows1252.h"
+#include "base/Windows1252.h"
 
 QString ToQString(std::string_view windows1252) {
     const std::u32string text = Windows1252ToUnicode(windows1252);

@@ -6,7 +6,7 @@
 #include <QAbstractItemModel>
 #include <functional>
 
-#include "platform/TreeStore.h"
+#include "base/TreeStore.h"
 
 class CQtTreeModel : public QAbstractItemModel, public CTreeObserver {
 public:

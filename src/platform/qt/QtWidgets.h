@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/TreeStore.h"
+#include "base/TreeStore.h"
 
 class CQtTreeModel;
 

@@ -1,4 +1,4 @@
-#include "model/TreeWalk.h"
+#include "base/TreeWalk.h"
 
 // The steps read the entries directly: every writer and report takes a million of them.
 namespace {

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/DataObject.h"
+#include "base/DataObject.h"
 
 struct CDataListNode {
     explicit CDataListNode(std::unique_ptr<CDataObject> payload) : m_pPayload(std::move(payload)) {}

@@ -1,4 +1,4 @@
-#include "platform/LineStore.h"
+#include "base/LineStore.h"
 
 #include <utility>
 

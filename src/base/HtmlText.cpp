@@ -1,10 +1,10 @@
-#include "model/HtmlText.h"
+#include "base/HtmlText.h"
 
 #include <algorithm>
 #include <bit>
 #include <cstdint>
 
-#include "model/Bytes16.h"
+#include "base/Bytes16.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/SmallObjectPool.h"
+#include "base/SmallObjectPool.h"
 
 // Whatever an entry holds as its data. The entry owns it: deleting an entry destroys the data of
 // its whole subtree through this virtual destructor.

@@ -2,7 +2,7 @@
 // report, total and the import walk with it.
 #pragma once
 
-#include "platform/TreeStore.h"
+#include "base/TreeStore.h"
 
 // The step result that ends a walk.
 constexpr int STEP_END = 2;

@@ -1,4 +1,4 @@
-#include "model/FileWriter.h"
+#include "base/FileWriter.h"
 
 #include <fcntl.h>
 #include <stdio.h>
@@ -8,8 +8,8 @@
 #include <cerrno>
 #include <cstring>
 
-#include "model/FileOps.h"
-#include "model/Result.h"
+#include "base/FileOps.h"
+#include "base/Result.h"
 
 namespace {
 

@@ -10,8 +10,8 @@
 #include <string>
 #include <string_view>
 
-#include "model/HtmlText.h"
-#include "model/NumberText.h"
+#include "base/HtmlText.h"
+#include "base/NumberText.h"
 
 class CLineWriter {
 public:

@@ -1,4 +1,4 @@
-#include "model/DataObject.h"
+#include "base/DataObject.h"
 
 #include <ostream>
 

@@ -6,7 +6,7 @@
 #include <iosfwd>
 #include <string>
 
-#include "platform/SmallObjectPool.h"
+#include "base/SmallObjectPool.h"
 
 // An object's name. Names live in the pool: an order of battle holds one for each of its entries,
 // most too long to sit inside a string of their own, and reading a large file would otherwise

@@ -1,4 +1,4 @@
-#include "platform/Windows1252.h"
+#include "base/Windows1252.h"
 
 namespace {
 // 0x80 to 0x9F; every other byte is the character of the same value.

@@ -1,13 +1,13 @@
-#include "app/Workspace.h"
+#include "model/Workspace.h"
 
 #include <fstream>
 #include <sstream>
 
-#include "model/FileWriter.h"
-#include "model/LineCut.h"
-#include "model/LineTokenizer.h"
-#include "model/Result.h"
-#include "model/TextLines.h"
+#include "base/FileWriter.h"
+#include "base/LineCut.h"
+#include "base/LineTokenizer.h"
+#include "base/Result.h"
+#include "base/TextLines.h"
 
 CWorkspace::CWorkspace() {
     m_nType = TYPE_WORKSPACE;

@@ -1,4 +1,4 @@
-#include "model/FileOps.h"
+#include "base/FileOps.h"
 
 #include <fcntl.h>
 #include <stdio.h>

@@ -1,4 +1,4 @@
-#include "platform/TreeStore.h"
+#include "base/TreeStore.h"
 
 #include <utility>
 

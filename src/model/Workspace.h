@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "model/DataObject.h"
+#include "base/DataObject.h"
 
 class CWorkspace : public CDataObject {
 public:

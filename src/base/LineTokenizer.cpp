@@ -1,11 +1,11 @@
-#include "model/LineTokenizer.h"
+#include "base/LineTokenizer.h"
 
 #include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
 
-#include "model/Bytes16.h"
+#include "base/Bytes16.h"
 
 long long TruncateToInteger(double value) {
     if (value > -2147483648.0 && value < 2147483648.0) {

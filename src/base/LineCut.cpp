@@ -1,4 +1,4 @@
-#include "model/LineCut.h"
+#include "base/LineCut.h"
 // Why the writers cut. A written line exceeds what the readers take only with what was read from
 // a long line of a damaged file: written with more indentation than it stood with (an item read
 // at the top level and written eight tabs deep), or with a number that grew when it was stored

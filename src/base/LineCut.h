@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string>
 
-#include "model/TextLines.h"
+#include "base/TextLines.h"
 
 // Cuts the line from lineStart to the end of out to kMaxLineLength, as the readers cut it, with
 // the separators left at the cut dropped: tabs and the format's delimiter (' ' in an order of

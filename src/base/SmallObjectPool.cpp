@@ -1,4 +1,4 @@
-#include "platform/SmallObjectPool.h"
+#include "base/SmallObjectPool.h"
 
 #include <cstring>
 

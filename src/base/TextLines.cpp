@@ -1,4 +1,4 @@
-#include "model/TextLines.h"
+#include "base/TextLines.h"
 
 #include <charconv>
 #include <cmath>
