@@ -161,8 +161,7 @@ int main(int argc, char** argv) {
         const std::string workspacePath = (folder / "bench.txt").string();
         workspace.Save(workspacePath);
 
-        COobDocument document;
-        document.m_pDatabase = &database;
+        COobDocument document(&database);
         std::unique_ptr<CTreeStore> tree;
         const double load = BestSeconds(
             kRuns, [&] { document.LoadTree(oobPath.string(), *tree); },

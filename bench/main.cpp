@@ -14,8 +14,10 @@
 #include "BenchTimer.h"
 #include "base/Result.h"
 #include "gamedata/GameDatabase.h"
+#include "model/GameImport.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
+#include "model/Reports.h"
 
 namespace {
 
@@ -62,8 +64,7 @@ Figures Measure(const fs::path& folder, CGameDatabase& database, std::size_t siz
     const std::string bytes = MakeBenchOob(size);
     WriteBytes(oobPath, bytes);
 
-    COobDocument document;
-    document.m_pDatabase = &database;
+    COobDocument document(&database);
     f.scan = BestSeconds(kRuns, [&] { RawScan(oobPath); });
     std::unique_ptr<CTreeStore> tree;
     f.load = BestSeconds(
@@ -81,16 +82,19 @@ Figures Measure(const fs::path& folder, CGameDatabase& database, std::size_t siz
     f.save = BestSeconds(kRuns, [&] { document.Save(outPath, *tree); });
 
     const std::string reportPath = (folder / "report.txt").string();
-    f.html = BestSeconds(
-        kRuns, [&] { document.WriteHtmlReport(reportPath, *tree, HTML_COSTS | HTML_IMAGES); });
-    f.cost = BestSeconds(kRuns, [&] { document.WriteCostReport(reportPath, *tree); });
-    f.leader = BestSeconds(kRuns, [&] { document.WriteLeaderReport(reportPath, *tree); });
-    f.key = BestSeconds(kRuns, [&] { document.WriteKeyReport(reportPath, *tree); });
+    CWriteBuffer& buffer = document.m_writer.Buffer();
+    const auto report = [&](ReportKind kind, int flags = 0) {
+        return BestSeconds(kRuns, [&] { WriteReport(buffer, reportPath, *tree, kind, flags); });
+    };
+    f.html = report(ReportKind::kHtml, HTML_COSTS | HTML_IMAGES);
+    f.cost = report(ReportKind::kCost);
+    f.leader = report(ReportKind::kLeader);
+    f.key = report(ReportKind::kKey);
 
     const std::string gamePath = (folder / "game.btl").string();
     WriteBytes(gamePath, MakeBenchGameFile(*tree));
     f.import = BestSeconds(kRuns, [&] {
-        document.GetData(gamePath, *tree, IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY);
+        ImportGameData(gamePath, *tree, IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY);
     });
     return f;
 }

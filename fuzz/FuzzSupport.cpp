@@ -171,9 +171,7 @@ std::unique_ptr<CGameDatabase> TakeSampleDatabase() {
 
 }  // namespace
 
-COobSession::COobSession() : database(TakeSampleDatabase()) {
-    document.m_pDatabase = database.get();
-}
+COobSession::COobSession() : database(TakeSampleDatabase()), document(database.get()) {}
 
 COobSession::~COobSession() {
     // The items point into the game data: they go first.
@@ -219,7 +217,7 @@ std::unique_ptr<COobSession> RequireOobFixedPoint(const std::string& text, bool 
         again->document.LoadTree(WriteScratchFile("written.oob", text), again->tree) == RESULT_DONE,
         "the written file does not open");
     RequireConsistentTree(again->tree);
-    const std::string second = again->document.ToText(again->tree);
+    const std::string second = again->document.m_writer.ToText(again->tree);
     if (cut && second != text) {
         return RequireOobFixedPoint(second, false);
     }

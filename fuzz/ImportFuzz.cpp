@@ -8,7 +8,9 @@
 #include "FuzzSupport.h"
 #include "base/Result.h"
 #include "model/ContainerItems.h"
+#include "model/GameImport.h"
 #include "model/OobItem.h"
+#include "model/Reports.h"
 #include "model/SupplyItem.h"
 #include "model/UnitItem.h"
 
@@ -36,8 +38,7 @@ void CheckEntries(COobSession& session, HTREEITEM entry, const std::string& key,
     for (std::size_t row = 0; row < entry->ChildCount(); ++row) {
         const HTREEITEM child = entry->Child(row);
         const std::string childKey = key + std::to_string(row + 1) + '.';
-        Require(session.document.FindItemByKey(childKey, tree) == child,
-                "an entry's key finds another entry");
+        Require(FindItemByKey(childKey, tree) == child, "an entry's key finds another entry");
         const COobItem& item = *ItemOf(tree, child);
         const bool missing = IsCounted(item) && item.m_nSeen == 0;
         Require(!(missing && (flags & IMPORT_REMOVE_MISSING)), "a missing entry is kept");
@@ -67,13 +68,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(session.document.LoadTree(WriteScratchFile("valdoria.oob", SampleText("valdoria.oob")),
                                       session.tree) == RESULT_DONE,
             "the sample order of battle does not open");
-    Require(session.document.GetData(WriteScratchFile("input.btl", data + 1, size - 1),
-                                     session.tree, flags) == RESULT_DONE,
+    Require(ImportGameData(WriteScratchFile("input.btl", data + 1, size - 1), session.tree,
+                           flags) == RESULT_DONE,
             "the game file does not open");
     RequireConsistentTree(session.tree);
     CheckEntries(session, session.tree.HiddenRoot(), "", flags);
-    session.document.ToText(session.tree);
-    session.document.CostReport(session.tree);
-    session.document.KeyReport(session.tree);
+    session.document.m_writer.ToText(session.tree);
+    ReportText(session.tree, ReportKind::kCost);
+    ReportText(session.tree, ReportKind::kKey);
     return 0;
 }

@@ -7,30 +7,32 @@
 #include "FuzzSupport.h"
 #include "base/LineStore.h"
 #include "base/Result.h"
+#include "model/LeaderItem.h"
 #include "model/OobItem.h"
+#include "model/Reports.h"
 
 namespace {
 
 void MakeReports(COobSession& session) {
-    session.document.NumberLeaders(session.tree);
+    NumberLeaders(session.tree);
     for (int flags = 0; flags <= (HTML_COSTS | HTML_IMAGES); ++flags) {
-        session.document.HtmlReport(session.tree, flags);
+        ReportText(session.tree, ReportKind::kHtml, flags);
     }
-    session.document.CostReport(session.tree);
-    session.document.LeaderReport(session.tree);
-    session.document.KeyReport(session.tree);
+    ReportText(session.tree, ReportKind::kCost);
+    ReportText(session.tree, ReportKind::kLeader);
+    ReportText(session.tree, ReportKind::kKey);
 }
 
 // The copy buffer holds the same lines without indentation; pasting them back and copying again
 // must give the same lines.
 void RequireCopyFixedPoint(COobSession& session) {
     CLineStore copied;
-    session.document.CopyToList(session.tree, nullptr, copied);
+    session.document.m_writer.CopyToList(session.tree, nullptr, copied);
     COobSession pasted;
-    pasted.document.PasteFromList(pasted.tree, TVI_ROOT, TVI_LAST, copied);
+    pasted.document.m_reader.PasteFromList(pasted.tree, TVI_ROOT, TVI_LAST, copied);
     RequireConsistentTree(pasted.tree);
     CLineStore again;
-    pasted.document.CopyToList(pasted.tree, nullptr, again);
+    pasted.document.m_writer.CopyToList(pasted.tree, nullptr, again);
     Require(again.GetCount() == copied.GetCount(), "pasted lines copy to a different count");
     for (int i = 0; i < copied.GetCount(); ++i) {
         Require(again.GetText(i) == copied.GetText(i), "pasted lines copy differently");
@@ -54,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // children, but such a tree is outside the format, which promises blocks only after armies
     // and structures, so it is held to the fixed point alone; so is a tree whose writing cuts a
     // line, as what was cut off does not come back.
-    const std::string written = first.document.ToText(first.tree);
+    const std::string written = first.document.m_writer.ToText(first.tree);
     const bool cut = HasCutLine(first.tree);
     const auto second = RequireOobFixedPoint(written, cut);
     if (!HasChildrenOutsideContainers(first.tree) && !cut) {

@@ -11,6 +11,7 @@
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
+#include "model/Reports.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::istringstream input(std::string(reinterpret_cast<const char*>(data), size));
@@ -24,17 +25,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // Game data this damaged need not give an order of battle that reads back the same (two
     // kinds whose keywords begin alike, say), so only reading, writing and pricing are checked.
-    COobDocument document;
-    document.m_pDatabase = &first;
+    COobDocument document(&first);
     CTreeStore tree;
     Require(document.LoadTree(WriteScratchFile("frontier.oob", SampleText("frontier.oob")), tree) ==
                 RESULT_DONE,
             "the sample order of battle does not open");
     RequireConsistentTree(tree);
-    document.ToText(tree);
-    document.HtmlReport(tree, HTML_COSTS | HTML_IMAGES);
-    document.CostReport(tree);
-    document.LeaderReport(tree);
+    document.m_writer.ToText(tree);
+    ReportText(tree, ReportKind::kHtml, HTML_COSTS | HTML_IMAGES);
+    ReportText(tree, ReportKind::kCost);
+    ReportText(tree, ReportKind::kLeader);
     first.ToText();
     return 0;
 }

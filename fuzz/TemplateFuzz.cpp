@@ -49,11 +49,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const int ordinal = static_cast<std::int8_t>(data[2]);
 
     const std::size_t before = session.tree.GetCount();
-    Require(session.document.InsertTemplate(WriteScratchFile("input.tpl", data + 3, size - 3),
-                                            session.tree, parent, after, ordinal) == RESULT_DONE,
+    Require(session.document.m_reader.InsertTemplate(
+                WriteScratchFile("input.tpl", data + 3, size - 3), session.tree, parent, after,
+                ordinal) == RESULT_DONE,
             "the template file does not open");
     RequireConsistentTree(session.tree);
     Require(session.tree.GetCount() >= before, "inserting a template removes entries");
-    RequireOobFixedPoint(session.document.ToText(session.tree), HasCutLine(session.tree));
+    RequireOobFixedPoint(session.document.m_writer.ToText(session.tree), HasCutLine(session.tree));
     return 0;
 }

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "app/EditorPrompts.h"
+#include "base/Result.h"
 #include "platform/Dialog.h"
 
 class COobDocument;
@@ -89,7 +90,7 @@ protected:
     std::unique_ptr<CGameDatabase> LoadDatabase(const std::string& targetFile);
     // Copies the file source into destination; RESULT_DONE, RESULT_CANNOT_OPEN (source) or
     // RESULT_CANNOT_WRITE (destination, left as it was).
-    static int CopyFileText(const std::string& source, const std::string& destination);
+    static CWriteResult CopyFileText(const std::string& source, const std::string& destination);
     // Nothing marked: New, Load, Delete and a paste in Cut mode end every mark.
     void ClearClipboard();
 
@@ -106,7 +107,7 @@ private:
                                                  std::uint16_t mode, std::uint16_t oobOpenMode);
     // Makes the three objects current, the old ones and the old tree gone.
     void Install(std::unique_ptr<CWorkspace> workspace, std::unique_ptr<CGameDatabase> database);
-    void ShowWriteError();
+    void ShowWriteError(const CWriteResult& result);
 };
 
 // The start folder from START.INI's first line: up to the line feed, one carriage return

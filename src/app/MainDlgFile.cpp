@@ -21,8 +21,8 @@ bool CMainDlg::Ask(const std::string& question, const std::string& caption) {
     return MessageBox(question, caption, MB_YESNO | MB_ICONQUESTION) == IDYES;
 }
 
-void CMainDlg::ShowWriteError() {
-    MessageBox("Cannot write " + LastWriteError(), "Error", MB_ICONEXCLAMATION);
+void CMainDlg::ShowWriteError(const CWriteResult& result) {
+    MessageBox("Cannot write " + result.error, "Error", MB_ICONEXCLAMATION);
 }
 
 std::optional<std::string> CMainDlg::PickWorkspaceFile(bool open) {
@@ -68,8 +68,7 @@ void CMainDlg::Install(std::unique_ptr<CWorkspace> workspace,
     ClearClipboard();
     m_pDocument.reset();
     m_pDatabase = std::move(database);
-    m_pDocument = std::make_unique<COobDocument>();
-    m_pDocument->m_pDatabase = m_pDatabase.get();
+    m_pDocument = std::make_unique<COobDocument>(m_pDatabase.get());
     m_pWorkspace = std::move(workspace);
 }
 
@@ -80,9 +79,12 @@ bool CMainDlg::SaveFilesPrompt() {
     if (m_strOobStatus != "*" || !Ask("Do you want to save your files?", "Save")) {
         return true;
     }
-    if (m_pDocument->Save(std::string(m_pDocument->m_strName), m_tree) != RESULT_DONE ||
-        m_pWorkspace->Save(m_pWorkspace->m_strPath) != RESULT_DONE) {
-        ShowWriteError();
+    CWriteResult written = m_pDocument->Save(m_pDocument->m_strPath, m_tree);
+    if (written.Done()) {
+        written = m_pWorkspace->Save(m_pWorkspace->m_strPath);
+    }
+    if (!written.Done()) {
+        ShowWriteError(written);
         return false;
     }
     m_strOobStatus = " ";
@@ -100,10 +102,10 @@ void CMainDlg::OpenWorkspace(std::unique_ptr<CWorkspace> workspace,
     UpdateData(false);
 }
 
-int CMainDlg::CopyFileText(const std::string& source, const std::string& destination) {
+CWriteResult CMainDlg::CopyFileText(const std::string& source, const std::string& destination) {
     std::string text;
     if (!ReadWholeFile(source, text)) {
-        return RESULT_CANNOT_OPEN;
+        return {RESULT_CANNOT_OPEN, source};
     }
     return ReplaceFile(destination, text);
 }
@@ -124,10 +126,10 @@ void CMainDlg::NewWorkspace(const char* question, std::uint16_t oobOpenMode, boo
     // The skeleton is written before anything is replaced, so that a write that fails leaves
     // the open workspace, its tree and the status fields as they were.
     if (createDefault) {
-        COobDocument skeleton;
-        skeleton.m_pDatabase = database.get();
-        if (skeleton.CreateDefault(workspace->m_strOobFile) != RESULT_DONE) {
-            ShowWriteError();
+        const CWriteResult written =
+            COobWriter(database.get()).CreateDefault(workspace->m_strOobFile);
+        if (!written.Done()) {
+            ShowWriteError(written);
             return;
         }
     }
@@ -171,7 +173,7 @@ void CMainDlg::OnNewAttachedOob() {
         static_cast<CAttachedOobRecord&>(*database->m_AttachedOobs.SeekIndex(index)->m_pPayload)
             .m_strFile;
     // The copy is made before anything is replaced, as for New, Empty.
-    const int copied = CopyFileText(source, workspace->m_strOobFile);
+    const CWriteResult copied = CopyFileText(source, workspace->m_strOobFile);
     if (copied == RESULT_CANNOT_OPEN) {
         MessageBox("Bad or missing " + source + " file!", "Error", MB_ICONEXCLAMATION);
         Install(nullptr, nullptr);
@@ -181,8 +183,8 @@ void CMainDlg::OnNewAttachedOob() {
         UpdateData(false);
         return;
     }
-    if (copied != RESULT_DONE) {
-        ShowWriteError();
+    if (!copied.Done()) {
+        ShowWriteError(copied);
         return;
     }
     OpenWorkspace(std::move(workspace), std::move(database));
@@ -217,8 +219,8 @@ void CMainDlg::OnSaveAs() {
     if (!path) {
         return;
     }
-    if (m_pWorkspace->Save(*path) != RESULT_DONE) {
-        ShowWriteError();
+    if (const CWriteResult written = m_pWorkspace->Save(*path); !written.Done()) {
+        ShowWriteError(written);
     }
 }
 

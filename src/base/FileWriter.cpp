@@ -13,11 +13,8 @@
 
 namespace {
 
-std::string g_lastError;
-
-int Fail(const std::string& path, int error) {
-    g_lastError = path + ": " + std::strerror(error);
-    return RESULT_CANNOT_WRITE;
+CWriteResult Fail(const std::string& path, int error) {
+    return {RESULT_CANNOT_WRITE, path + ": " + std::strerror(error)};
 }
 
 std::string FolderOf(const std::string& path) {
@@ -90,8 +87,8 @@ std::string TemporaryNameFor(const std::string& target) {
 // The new file has taken the old one's place: syncs the folder, so that the new name survives
 // a crash, and takes the new file back out when that fails. With the names exchanged the old
 // file is still there under the temporary name until then.
-int Commit(CFileOps& ops, const std::string& path, const std::string& temporary,
-           const std::string& target, bool replacing, int folder) {
+CWriteResult Commit(CFileOps& ops, const std::string& path, const std::string& temporary,
+                    const std::string& target, bool replacing, int folder) {
     Swap swap = replacing ? Swap::kExchanged : Swap::kCreated;
     int renamed = ops.Rename(temporary, target, replacing ? RENAME_EXCHANGE : 0);
     if (renamed != 0 && replacing && (errno == EINVAL || errno == ENOSYS)) {
@@ -121,13 +118,13 @@ int Commit(CFileOps& ops, const std::string& path, const std::string& temporary,
         // The old bytes. Left behind only if the folder refuses the removal it just allowed.
         ::unlink(temporary.c_str());
     }
-    return RESULT_DONE;
+    return {};
 }
 
 // A device or a pipe named as the output (/dev/null, /dev/stdout, a FIFO a script reads) is
 // written into, not replaced: renaming a file over it would put a plain file in place of the
 // device, and there is no old content to keep. Not flushed, since such files take no fsync.
-int WriteInto(CFileOps& ops, const std::string& path, std::string_view bytes) {
+CWriteResult WriteInto(CFileOps& ops, const std::string& path, std::string_view bytes) {
     const int fd = ops.Open(path, O_WRONLY, 0);
     if (fd < 0) {
         return Fail(path, errno);
@@ -137,16 +134,12 @@ int WriteInto(CFileOps& ops, const std::string& path, std::string_view bytes) {
     if (ops.Close(fd) != 0 && ok) {
         return Fail(path, errno);
     }
-    return ok ? RESULT_DONE : Fail(path, error);
+    return ok ? CWriteResult{} : Fail(path, error);
 }
 
 }  // namespace
 
-const std::string& LastWriteError() {
-    return g_lastError;
-}
-
-int ReplaceFile(const std::string& path, std::string_view bytes) {
+CWriteResult ReplaceFile(const std::string& path, std::string_view bytes) {
     CFileOps& ops = FileOps();
     struct stat old;
     // The kernel follows the links here: some end at no path a hand-made walk could name
@@ -192,7 +185,7 @@ int ReplaceFile(const std::string& path, std::string_view bytes) {
     return Commit(ops, path, temporary, target, replacing, folder);
 }
 
-int AppendToFile(const std::string& path, std::string_view bytes) {
+CWriteResult AppendToFile(const std::string& path, std::string_view bytes) {
     CFileOps& ops = FileOps();
     // Links are followed first, so that taking an append back removes or truncates the file
     // behind a link and never the link.
@@ -225,5 +218,5 @@ int AppendToFile(const std::string& path, std::string_view bytes) {
         }
         return Fail(path, error);
     }
-    return RESULT_DONE;
+    return {};
 }

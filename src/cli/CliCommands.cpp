@@ -4,39 +4,34 @@
 #include <string>
 #include <vector>
 
-#include "base/FileWriter.h"
 #include "base/Result.h"
 #include "base/TextLines.h"
 #include "base/TreeWalk.h"
 #include "cli/CliPrompts.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
+#include "model/GameImport.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
+#include "model/Reports.h"
 
 namespace {
 
-// A document that remembers the lines its reader passed over, with their line numbers.
-class CCheckedDocument : public COobDocument {
-public:
-    void LinePassedOver(const std::string& line) override {
-        m_passedOver.push_back("line " + std::to_string(LineNumber()) + ": no item kind: " + line);
-    }
-
-    std::vector<std::string> m_passedOver;
-};
-
-// Everything one command works on: the database, its prompts, the document and the tree.
+// Everything one command works on: the database, its prompts, the document and the tree, and
+// the lines the reader passed over, with their line numbers.
 struct CSession {
     CSession(const CCliOptions& options, std::ostream& err) : prompts(options.unknownClass, err) {
         database.m_pPrompts = &prompts;
-        document.m_pDatabase = &database;
+        document.m_reader.m_onPassedOver = [this](int lineNumber, const std::string& line) {
+            passedOver.push_back("line " + std::to_string(lineNumber) + ": no item kind: " + line);
+        };
     }
 
     CCliPrompts prompts;
     CGameDatabase database;
-    CCheckedDocument document;
+    COobDocument document{&database};
     CTreeStore tree;
+    std::vector<std::string> passedOver;
 };
 
 int CannotOpen(std::ostream& err, const std::string& path) {
@@ -44,11 +39,11 @@ int CannotOpen(std::ostream& err, const std::string& path) {
     return EXIT_CANNOT_OPEN;
 }
 
-int Written(std::ostream& err, int result) {
-    if (result == RESULT_DONE) {
+int Written(std::ostream& err, const CWriteResult& result) {
+    if (result.Done()) {
         return EXIT_DONE;
     }
-    err << "harnwick-cli: cannot write " << LastWriteError() << '\n';
+    err << "harnwick-cli: cannot write " << result.error << '\n';
     return EXIT_CANNOT_WRITE;
 }
 
@@ -131,8 +126,7 @@ int Check(CSession& session, const CCliOptions& options, std::ostream& out, std:
         }
         problems.push_back(line);
     }
-    problems.insert(problems.end(), session.document.m_passedOver.begin(),
-                    session.document.m_passedOver.end());
+    problems.insert(problems.end(), session.passedOver.begin(), session.passedOver.end());
     CKeyCounter keys;
     for (CTreeWalk walk(session.tree, nullptr); !walk.Done(); walk.Step()) {
         const COobItem& item = *ItemOf(session.tree, walk.Current());
@@ -154,19 +148,19 @@ int Report(CSession& session, const CCliOptions& options, std::ostream& err) {
     if (int status = LoadBoth(session, options, err)) {
         return status;
     }
-    COobDocument& document = session.document;
+    CWriteBuffer& buffer = session.document.m_writer.Buffer();
     const std::string& out = options.files[2];
     if (options.report == "html") {
         const int flags = (options.costs ? HTML_COSTS : 0) | (options.images ? HTML_IMAGES : 0);
-        return Written(err, document.WriteHtmlReport(out, session.tree, flags));
+        return Written(err, WriteReport(buffer, out, session.tree, ReportKind::kHtml, flags));
     }
     if (options.report == "cost") {
-        return Written(err, document.WriteCostReport(out, session.tree));
+        return Written(err, WriteReport(buffer, out, session.tree, ReportKind::kCost));
     }
     if (options.report == "leader") {
-        return Written(err, document.WriteLeaderReport(out, session.tree));
+        return Written(err, WriteReport(buffer, out, session.tree, ReportKind::kLeader));
     }
-    return Written(err, document.WriteKeyReport(out, session.tree));
+    return Written(err, WriteReport(buffer, out, session.tree, ReportKind::kKey));
 }
 
 // A game file that does not open stops the import before OUT is written.
@@ -175,7 +169,7 @@ int Import(CSession& session, const CCliOptions& options, std::ostream& err) {
         return status;
     }
     const std::string& gameFile = options.files[2];
-    if (session.document.GetData(gameFile, session.tree, options.importFlags) != RESULT_DONE) {
+    if (ImportGameData(gameFile, session.tree, options.importFlags) != RESULT_DONE) {
         return CannotOpen(err, gameFile);
     }
     return Written(err, session.document.Save(options.files[3], session.tree));
@@ -202,7 +196,7 @@ int RunCliCommand(const CCliOptions& options, std::ostream& out, std::ostream& e
         return status;
     }
     if (command == "new") {
-        return Written(err, session.document.CreateDefault(options.files[1]));
+        return Written(err, session.document.m_writer.CreateDefault(options.files[1]));
     }
     if (command == "target") {
         return Written(err, session.database.Save(options.files[1]));

@@ -1,6 +1,6 @@
 #include "cli/CliOptions.h"
 
-#include "model/OobDocument.h"
+#include "model/GameImport.h"
 
 const char* const kCliUsage =
     "Usage: harnwick-cli COMMAND FILES... [OPTIONS]\n"

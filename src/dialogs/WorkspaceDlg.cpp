@@ -1,6 +1,5 @@
 #include "dialogs/WorkspaceDlg.h"
 
-#include "base/FileWriter.h"
 #include "base/Result.h"
 #include "model/Workspace.h"
 #include "platform/DataExchange.h"
@@ -169,9 +168,9 @@ void CWorkspaceDlg::OnAccept() {
         m_workspace.m_strPicturePaths[i] = *picture.pPath;
         m_workspace.m_nPictureFlags[i] = *picture.pSwitch != 0 ? 1 : 0;
     }
-    if (m_workspace.Save(m_workspace.m_strPath) != RESULT_DONE) {
+    if (const CWriteResult written = m_workspace.Save(m_workspace.m_strPath); !written.Done()) {
         m_workspace = before;
-        MessageBox("Cannot write " + LastWriteError(), "Error", MB_ICONEXCLAMATION);
+        MessageBox("Cannot write " + written.error, "Error", MB_ICONEXCLAMATION);
         return;
     }
     EndDialog(1);

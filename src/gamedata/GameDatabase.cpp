@@ -162,9 +162,8 @@ std::string CGameDatabase::ToText() {
     return text;
 }
 
-int CGameDatabase::Save(const std::string& path) {
-    m_strFilePath = path;
-    return ReplaceFile(path, ToText());
+CWriteResult CGameDatabase::Save(const std::string& path) {
+    return SaveAs(m_strFilePath, path, [&] { return ReplaceFile(path, ToText()); });
 }
 
 int CGameDatabase::Load(const std::string& path) {

@@ -9,6 +9,7 @@
 
 #include "base/DataList.h"
 #include "base/DataObject.h"
+#include "base/Result.h"
 #include "gamedata/BaseTypeIndex.h"
 #include "gamedata/KindIndex.h"
 
@@ -22,10 +23,11 @@ public:
 
     void WriteTo(std::ostream& out, std::uint8_t indent) override;
     void ReadFrom(std::istream& in) override;
-    // RESULT_DONE or RESULT_CANNOT_WRITE (the old file is then left as it was).
-    virtual int Save(const std::string& path);
+    // Writes the target file at path, which then becomes m_strFilePath; a write that fails
+    // leaves the old file and m_strFilePath as they were.
+    CWriteResult Save(const std::string& path);
     // RESULT_DONE or RESULT_CANNOT_OPEN (the lists are then left as they were).
-    virtual int Load(const std::string& path);
+    int Load(const std::string& path);
 
     // The whole file as it is written to disk.
     std::string ToText();

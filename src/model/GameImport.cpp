@@ -1,5 +1,5 @@
-// Bringing the order of battle up to date from the game's own files: the strengths the units
-// still have after a battle, and which entries the game no longer mentions.
+#include "model/GameImport.h"
+
 #include <array>
 #include <fstream>
 #include <vector>
@@ -10,7 +10,6 @@
 #include "base/TreeWalk.h"
 #include "model/ContainerItems.h"
 #include "model/ItemLineReader.h"
-#include "model/OobDocument.h"
 #include "model/SupplyItem.h"
 #include "model/UnitItem.h"
 
@@ -95,13 +94,12 @@ std::vector<HTREEITEM> StructuresWithoutMen(const CTreeStore& tree) {
     return empty;
 }
 
-}  // namespace
-
 // Keys that name no entry (a number beyond the last sibling, a level that does not exist) give
-// none: the import then changes nothing for that line, and the tree stays as it was.
-HTREEITEM COobDocument::FindItemByKey(const std::string& key, const CTreeStore& tree) {
-    m_keyTokenizer.SetLine(key);
-    CItemLineReader reader(m_keyTokenizer, nullptr);
+// none: the import then changes nothing for that line, and the tree stays as it was. The
+// tokenizer is the caller's, set to '.': a game file names one key a line.
+HTREEITEM FindItemByKey(std::string_view key, const CTreeStore& tree, CLineTokenizer& tokenizer) {
+    tokenizer.SetLine(key);
+    CItemLineReader reader(tokenizer, nullptr);
     std::array<std::int16_t, kMaxKeyNumbers> numbers;
     std::size_t count = 0;
     while (count < kMaxKeyNumbers && !reader.AtEnd()) {
@@ -123,7 +121,19 @@ HTREEITEM COobDocument::FindItemByKey(const std::string& key, const CTreeStore& 
     return entry;
 }
 
-int COobDocument::GetData(const std::string& path, CTreeStore& tree, int flags) {
+// The numbers of a position key are divided by dots.
+struct CKeyTokenizer : CLineTokenizer {
+    CKeyTokenizer() { SetDelimiter('.'); }
+};
+
+}  // namespace
+
+HTREEITEM FindItemByKey(std::string_view key, const CTreeStore& tree) {
+    CKeyTokenizer tokenizer;
+    return FindItemByKey(key, tree, tokenizer);
+}
+
+int ImportGameData(const std::string& path, CTreeStore& tree, int flags) {
     std::ifstream in;
     if (!OpenToRead(path, in)) {
         return RESULT_CANNOT_OPEN;
@@ -140,6 +150,7 @@ int COobDocument::GetData(const std::string& path, CTreeStore& tree, int flags) 
     }
     CLineTokenizer tokenizer;
     tokenizer.SetDelimiter(' ');
+    CKeyTokenizer keyTokenizer;
     for (bool records = true; records;) {
         if (ReadTextLine(in, line) == LineRead::End) {
             break;
@@ -148,7 +159,7 @@ int COobDocument::GetData(const std::string& path, CTreeStore& tree, int flags) 
         CItemLineReader fields(tokenizer, nullptr);
         const int record = fields.Number<std::int16_t>();
         if (record == 1) {
-            const HTREEITEM entry = FindItemByKey(std::string(fields.Word()), tree);
+            const HTREEITEM entry = FindItemByKey(fields.Word(), tree, keyTokenizer);
             for (int unused = 0; unused < 2; ++unused) {
                 fields.Number<std::int16_t>();
             }
@@ -160,7 +171,7 @@ int COobDocument::GetData(const std::string& path, CTreeStore& tree, int flags) 
             tokenizer.SeekField(10);
             const int count = StoreTruncated<std::int16_t>(tokenizer.ReadNumber());
             for (int i = 0; i < count && ReadTextLine(in, line) != LineRead::End; ++i) {
-                MarkSeen(tree, FindItemByKey(line, tree));
+                MarkSeen(tree, FindItemByKey(line, tree, keyTokenizer));
             }
         } else {
             records = false;

@@ -4,6 +4,7 @@
 
 #include "base/LineWriter.h"
 #include "base/TextLines.h"
+#include "base/TreeWalk.h"
 #include "gamedata/GameRecords.h"
 #include "model/ItemLineReader.h"
 
@@ -40,4 +41,14 @@ double CLeaderItem::Cost() const {
         return 0.0;
     }
     return CostModifier() * m_pBaseType->m_nMenPerPoint * m_pBaseType->m_dBaseCost;
+}
+
+void NumberLeaders(const CTreeStore& tree) {
+    std::int32_t number = 0;
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        COobItem* item = ItemOf(tree, walk.Current());
+        if (item && item->m_nType == TYPE_LEADER) {
+            static_cast<CLeaderItem*>(item)->m_nLeaderNumber = number++;
+        }
+    }
 }

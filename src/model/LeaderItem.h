@@ -27,3 +27,6 @@ public:
     // but its line is written back as it was read rather than without the name.
     std::string m_strMissingType;
 };
+
+// Numbers the leaders of the tree from 0 in tree order.
+void NumberLeaders(const CTreeStore& tree);

@@ -58,12 +58,8 @@ std::string CWorkspace::ToText() {
     return text;
 }
 
-int CWorkspace::Save(const std::string& path) {
-    const int result = ReplaceFile(path, ToText());
-    if (result == RESULT_DONE) {
-        m_strPath = path;
-    }
-    return result;
+CWriteResult CWorkspace::Save(const std::string& path) {
+    return SaveAs(m_strPath, path, [&] { return ReplaceFile(path, ToText()); });
 }
 
 int CWorkspace::Load(const std::string& path) {

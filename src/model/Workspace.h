@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/DataObject.h"
+#include "base/Result.h"
 
 class CWorkspace : public CDataObject {
 public:
@@ -18,10 +19,11 @@ public:
 
     void WriteTo(std::ostream& out, std::uint8_t indent) override;
     void ReadFrom(std::istream& in) override;
-    // RESULT_DONE or RESULT_CANNOT_WRITE (the old file is then left as it was).
-    virtual int Save(const std::string& path);
+    // Writes the file at path, which then becomes m_strPath; a write that fails leaves the old
+    // file and m_strPath as they were.
+    CWriteResult Save(const std::string& path);
     // RESULT_DONE, or RESULT_CANNOT_OPEN with every field kept.
-    virtual int Load(const std::string& path);
+    int Load(const std::string& path);
 
     std::string ToText();
 

@@ -66,8 +66,7 @@ TEST(CrashSave, AKilledSaveLeavesTheOldOrTheNewFile) {
     const std::string sample = HW_SAMPLE_DIR "/";
     CGameDatabase database;
     ASSERT_EQ(database.Load(sample + "valdoria.inf"), RESULT_DONE);
-    COobDocument document;
-    document.m_pDatabase = &database;
+    COobDocument document(&database);
 
     // The sample's armies many times over, as the new order of battle; the sample as the old.
     const std::string old = ReadBytes(sample + "valdoria.oob");

@@ -56,8 +56,9 @@ TEST(FileWriter, ReplaceFileWritesAndKeepsThePermissionBits) {
 
     // Neither a missing folder nor a folder standing where the file should be is written.
     for (const std::string& bad : {folder / "missing/target.inf", folder / "sub"}) {
-        EXPECT_EQ(ReplaceFile(bad, "x"), RESULT_CANNOT_WRITE);
-        EXPECT_EQ(LastWriteError().rfind(bad + ": ", 0), 0u) << LastWriteError();
+        const CWriteResult result = ReplaceFile(bad, "x");
+        EXPECT_EQ(result, RESULT_CANNOT_WRITE);
+        EXPECT_EQ(result.error.rfind(bad + ": ", 0), 0u) << result.error;
     }
     EXPECT_EQ(folder.Names("sub"), Names{});
 }
@@ -180,8 +181,9 @@ TEST(FileWriter, FailingAnyOperationLeavesTheFileAsItWas) {
             Reset(folder, c.start, old);
             CFailingOps ops(fault, 3);
             ops.m_bNoExchange = c.noExchange;
-            EXPECT_EQ(WithOps(ops, write), RESULT_CANNOT_WRITE);
-            EXPECT_EQ(LastWriteError().rfind(path + ": ", 0), 0u) << LastWriteError();
+            const CWriteResult result = WithOps(ops, write);
+            EXPECT_EQ(result, RESULT_CANNOT_WRITE);
+            EXPECT_EQ(result.error.rfind(path + ": ", 0), 0u) << result.error;
             EXPECT_EQ(folder.Names(), before);
             if (c.start == kExisting) {
                 EXPECT_EQ(ReadBytes(path), c.noExchange && fault.k > renamed ? bytes : old);

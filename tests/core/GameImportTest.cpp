@@ -22,7 +22,7 @@ protected:
     // given record lines.
     int Import(const std::string& records, int flags) {
         WriteBytes(m_folder / "game.btl", "1 9.9 0 0 9\n2\n3\n4\n5\n6\n7\n8\n9\n" + records);
-        return m_doc.GetData(m_folder / "game.btl", m_tree, flags);
+        return ImportGameData(m_folder / "game.btl", m_tree, flags);
     }
 
     CTempFolder m_folder;
@@ -34,7 +34,7 @@ TEST_F(GameImport, KeysNameEntriesByPosition) {
         {"1", "North"}, {"2.", "South"}, {"1.2.3.", "Wagons"}, {"2.1.2.", "Foot"}, {"", "North"},
         {"3.", "none"}, {"1.9", "none"}, {"1.2.9.4", "none"},  {"1.0.2", "First"}};
     for (const auto& [key, name] : cases) {
-        const HTREEITEM entry = m_doc.FindItemByKey(key, m_tree);
+        const HTREEITEM entry = FindItemByKey(key, m_tree);
         EXPECT_EQ(entry ? m_tree.GetItemText(entry) : "none", name) << key;
     }
 }

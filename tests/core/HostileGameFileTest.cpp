@@ -38,7 +38,7 @@ protected:
         m_tree.DeleteAllItems();
         SetUp();
         WriteBytes(m_folder / "game.btl", text);
-        EXPECT_EQ(m_doc.GetData(m_folder / "game.btl", m_tree, flags), RESULT_DONE);
+        EXPECT_EQ(ImportGameData(m_folder / "game.btl", m_tree, flags), RESULT_DONE);
         std::string out = Shape();
         for (CTreeWalk walk(m_tree, nullptr); !walk.Done(); walk.Step()) {
             const COobItem* item = ItemOf(m_tree, walk.Current());
@@ -194,9 +194,9 @@ TEST_F(HostileGameFile, FileCutAtEveryByte) {
 // A path that names no file, or a folder, is refused and the tree is left as it was: a folder
 // read as an empty game file would remove every unit.
 TEST_F(HostileGameFile, PathsThatAreNoFileAreRefused) {
-    EXPECT_EQ(m_doc.GetData(m_folder / "missing.btl", m_tree, IMPORT_REMOVE_MISSING),
+    EXPECT_EQ(ImportGameData(m_folder / "missing.btl", m_tree, IMPORT_REMOVE_MISSING),
               RESULT_CANNOT_OPEN);
-    EXPECT_EQ(m_doc.GetData(m_folder.Path(), m_tree, IMPORT_REMOVE_MISSING), RESULT_CANNOT_OPEN);
+    EXPECT_EQ(ImportGameData(m_folder.Path(), m_tree, IMPORT_REMOVE_MISSING), RESULT_CANNOT_OPEN);
     EXPECT_EQ(Shape(), "North(Chief First(Line Guns Wagons)) South(Staff(Aide Foot))");
 }
 

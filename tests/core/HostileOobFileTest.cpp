@@ -29,12 +29,11 @@ std::string Load(const std::string& text, std::string* written = nullptr) {
     WriteBytes(folder / "in.oob", text);
     CGameDatabase db;
     LoadSmallGameData(db);
-    COobDocument doc;
-    doc.m_pDatabase = &db;
+    COobDocument doc(&db);
     CTreeStore tree;
     EXPECT_EQ(doc.LoadTree(folder / "in.oob", tree), RESULT_DONE);
     if (written) {
-        *written = doc.ToText(tree);
+        *written = doc.m_writer.ToText(tree);
     }
     return Shape(tree);
 }
@@ -164,12 +163,13 @@ TEST(HostileOobFile, FileCutAtEveryByte) {
 // reader, and the tree is left as it was.
 TEST(HostileOobFile, PathsThatAreNoFileAreRefused) {
     CTempFolder folder;
-    COobDocument doc;
+    COobDocument doc(nullptr);
     CTreeStore tree;
     tree.InsertItem("kept", TVI_ROOT, TVI_LAST);
     for (const std::string& path : {folder / "missing.oob", folder.Path()}) {
         EXPECT_EQ(doc.LoadTree(path, tree), RESULT_CANNOT_OPEN) << path;
-        EXPECT_EQ(doc.InsertTemplate(path, tree, TVI_ROOT, TVI_LAST, 0), RESULT_CANNOT_OPEN)
+        EXPECT_EQ(doc.m_reader.InsertTemplate(path, tree, TVI_ROOT, TVI_LAST, 0),
+                  RESULT_CANNOT_OPEN)
             << path;
     }
     EXPECT_EQ(Shape(tree), "kept");

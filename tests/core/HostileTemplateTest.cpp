@@ -28,17 +28,16 @@ protected:
     std::string Insert(const std::string& text, int ordinal, std::string* written = nullptr) {
         CGameDatabase db;
         LoadSmallGameData(db);
-        COobDocument doc;
-        doc.m_pDatabase = &db;
+        COobDocument doc(&db);
         CTreeStore tree;
         WriteBytes(m_folder / "army.oob", "3\nA P\n\tBegin\n\t" + kUnit + "W\n");
         EXPECT_EQ(doc.LoadTree(m_folder / "army.oob", tree), RESULT_DONE);
         WriteBytes(m_folder / "in.tpl", text);
-        EXPECT_EQ(
-            doc.InsertTemplate(m_folder / "in.tpl", tree, tree.GetRootItem(), TVI_LAST, ordinal),
-            RESULT_DONE);
+        EXPECT_EQ(doc.m_reader.InsertTemplate(m_folder / "in.tpl", tree, tree.GetRootItem(),
+                                              TVI_LAST, ordinal),
+                  RESULT_DONE);
         if (written) {
-            *written = doc.ToText(tree);
+            *written = doc.m_writer.ToText(tree);
         }
         return Shape(tree);
     }

@@ -56,21 +56,14 @@ std::string CrLf(const std::string& text) {
     return out;
 }
 
-// A document that remembers the lines its reader passed over, with their line numbers.
-class CRecordingDocument : public COobDocument {
-public:
-    void LinePassedOver(const std::string& line) override {
-        m_passedOver.push_back(std::to_string(LineNumber()) + ":" + line);
-    }
-    std::vector<std::string> m_passedOver;
-};
-
 class OobDocument : public ::testing::Test {
 protected:
     void SetUp() override {
         LoadSmallGameData(m_db);
         m_db.m_pPrompts = &m_prompts;
-        m_doc.m_pDatabase = &m_db;
+        m_doc.m_reader.m_onPassedOver = [this](int lineNumber, const std::string& line) {
+            m_passedOver.push_back(std::to_string(lineNumber) + ":" + line);
+        };
     }
 
     // Writes text to a file of the temporary folder and gives its path.
@@ -84,15 +77,17 @@ protected:
     HTREEITEM Find(const std::string& label) { return FindLabel(m_tree, label); }
     std::string Subtree(HTREEITEM start) {
         std::string out;
-        EXPECT_EQ(m_doc.WriteSubtree(out, m_tree, start), RESULT_DONE);
+        m_doc.m_writer.WriteSubtree(out, m_tree, start);
         return out;
     }
 
     CTempFolder m_folder;
     CGameDatabase m_db;
     CRecordingPrompts m_prompts;
-    CRecordingDocument m_doc;
+    COobDocument m_doc{&m_db};
     CTreeStore m_tree;
+    // The lines the reader passed over, with their line numbers.
+    std::vector<std::string> m_passedOver;
 };
 
 // The file ends inside two open blocks; the reader closes them at its end. Bare line feeds read,
@@ -103,15 +98,15 @@ TEST_F(OobDocument, SaveAndLoadGiveTheSameTreeAndBytes) {
     EXPECT_EQ(m_tree.GetSelectedItem(), m_tree.GetRootItem());
     const std::string saved = m_folder / "saved.oob";
     ASSERT_EQ(m_doc.Save(saved, m_tree), RESULT_DONE);
-    EXPECT_EQ(std::string(m_doc.m_strName), saved);
+    EXPECT_EQ(m_doc.m_strPath, saved);
     EXPECT_EQ(ReadBytes(saved), CrLf(kGolden));
     CTreeStore again;
     ASSERT_EQ(m_doc.LoadTree(saved, again), RESULT_DONE);
-    EXPECT_EQ(m_doc.ToText(again), CrLf(kGolden));
-    EXPECT_TRUE(m_doc.m_passedOver.empty());
+    EXPECT_EQ(m_doc.m_writer.ToText(again), CrLf(kGolden));
+    EXPECT_TRUE(m_passedOver.empty());
     EXPECT_TRUE(m_prompts.m_warnings.empty());
     EXPECT_EQ(m_doc.Save(m_folder / "missing/out.oob", m_tree), RESULT_CANNOT_WRITE);
-    EXPECT_EQ(std::string(m_doc.m_strName), saved);
+    EXPECT_EQ(m_doc.m_strPath, saved);
 }
 
 class Templates : public OobDocument {
@@ -122,7 +117,8 @@ protected:
         m_hParent = Find("P");
     }
     std::string Insert(const std::string& path, int ordinal, HTREEITEM after = TVI_LAST) {
-        EXPECT_EQ(m_doc.InsertTemplate(path, m_tree, m_hParent, after, ordinal), RESULT_DONE);
+        EXPECT_EQ(m_doc.m_reader.InsertTemplate(path, m_tree, m_hParent, after, ordinal),
+                  RESULT_DONE);
         return Shape(m_tree);
     }
 
@@ -141,7 +137,7 @@ TEST_F(Templates, TopLevelItemsGoAfterTheSiblingThenLast) {
               "P(a W X one Y two b)");
     EXPECT_EQ(Insert(File("deep.tpl", "Begin\nBegin\n" + kUnit + "orphan\n"), 0),
               "P(a W X one Y two b orphan)");
-    EXPECT_EQ(std::string(m_doc.m_strName), m_folder / "in.oob");
+    EXPECT_EQ(m_doc.m_strPath, m_folder / "in.oob");
     CTreeStore tree;
     ASSERT_EQ(m_doc.LoadTree(File("deep.oob", "3\nA Army\nBegin\nBegin\n" + kUnit + "x\n"), tree),
               RESULT_DONE);
@@ -167,7 +163,7 @@ TEST_F(OobDocument, CopyToListHoldsTheLinesWithoutTabs) {
     Load(kGolden);
     CLineStore list;
     list.AddString("left over");
-    ASSERT_EQ(m_doc.CopyToList(m_tree, nullptr, list), RESULT_DONE);
+    m_doc.m_writer.CopyToList(m_tree, nullptr, list);
     std::string joined = "3\n";
     for (int i = 0; i < list.GetCount(); ++i) {
         joined += list.GetText(i) + "\n";
@@ -175,7 +171,7 @@ TEST_F(OobDocument, CopyToListHoldsTheLinesWithoutTabs) {
     std::string untabbed = kGolden;
     std::erase(untabbed, '\t');
     EXPECT_EQ(joined, untabbed);
-    m_doc.CopyToList(m_tree, Find("Iron Brigade"), list);
+    m_doc.m_writer.CopyToList(m_tree, Find("Iron Brigade"), list);
     EXPECT_EQ(list.GetCount(), 5);
 }
 
@@ -185,27 +181,27 @@ TEST_F(Templates, PasteBuildsNestedItemsFirstThenLast) {
                                     kUnit + "c", std::string("End"), kUnit + "d"}) {
         list.AddString(line);
     }
-    ASSERT_EQ(m_doc.PasteFromList(m_tree, m_hParent, TVI_FIRST, list), RESULT_DONE);
+    m_doc.m_reader.PasteFromList(m_tree, m_hParent, TVI_FIRST, list);
     EXPECT_EQ(Shape(m_tree), "P(a W X Y b(c) d)");
 }
 
 TEST_F(OobDocument, DefaultOrderOfBattleReadsBackAsArmyLeaderAndDepot) {
     const std::string path = m_folder / "new.oob";
-    ASSERT_EQ(m_doc.CreateDefault(path), RESULT_DONE);
+    ASSERT_EQ(m_doc.m_writer.CreateDefault(path), RESULT_DONE);
     EXPECT_EQ(ReadBytes(path),
               CrLf("3\nA Army\n\tBegin\n\tL 4 4 0 Army Leader\n\tEnd\nDEP 6 0 Depot\n"));
     ASSERT_EQ(m_doc.LoadTree(path, m_tree), RESULT_DONE);
     EXPECT_EQ(Shape(m_tree), "Army(Army Leader) Depot");
     EXPECT_NE(ItemOf(m_tree, Find("Army Leader"))->m_pType, nullptr);
-    EXPECT_EQ(m_doc.CreateDefault(m_folder / "missing/new.oob"), RESULT_CANNOT_WRITE);
+    EXPECT_EQ(m_doc.m_writer.CreateDefault(m_folder / "missing/new.oob"), RESULT_CANNOT_WRITE);
 }
 
 TEST_F(OobDocument, LeadersAreNumberedInTreeOrder) {
     Load(kGolden);
     CLineStore list;
     list.AddString("L 1 2 0 Captain First");
-    m_doc.PasteFromList(m_tree, TVI_ROOT, TVI_FIRST, list);
-    m_doc.NumberLeaders(m_tree);
+    m_doc.m_reader.PasteFromList(m_tree, TVI_ROOT, TVI_FIRST, list);
+    NumberLeaders(m_tree);
     std::string numbers;
     for (const char* name : {"Captain First", "Marshal Orm", "Colonel Ash", "Major Fen"}) {
         numbers +=
@@ -227,7 +223,7 @@ TEST_F(OobDocument, BlocksDeeperThanTheParentsTableAreCountedButNotFilled) {
     }
     Load(text + kUnit + "top\n");
     EXPECT_EQ(Shape(m_tree), "L1(L2(L3(L4(L5(L6(L7(L8(L9 nine)))))))) top");
-    EXPECT_EQ(m_doc.m_passedOver,
+    EXPECT_EQ(m_passedOver,
               (std::vector<std::string>{"20:B L10", "22:B L11", "24:B L12", "26:" + kUnit + "deep",
                                         "30:" + kUnit + "still deep"}));
 }
@@ -243,14 +239,14 @@ TEST_F(OobDocument, LinesAcrossReadPiecesReadAsLineByLine) {
         text += kUnit + name + (i % 3 == 0 ? "\r\n" : "\n");
     }
     Load(text);
-    const std::vector<std::string> passedOver = m_doc.m_passedOver;
-    m_doc.m_passedOver.clear();
+    const std::vector<std::string> passedOver = m_passedOver;
+    m_passedOver.clear();
     CTreeStore inserted;
-    ASSERT_EQ(m_doc.InsertTemplate(File("all.tpl", text), inserted, TVI_ROOT, TVI_LAST, 0),
+    ASSERT_EQ(m_doc.m_reader.InsertTemplate(File("all.tpl", text), inserted, TVI_ROOT, TVI_LAST, 0),
               RESULT_DONE);
     EXPECT_EQ(m_tree.GetCount(), inserted.GetCount());
-    EXPECT_EQ(m_doc.ToText(m_tree), m_doc.ToText(inserted));
-    EXPECT_EQ(passedOver, m_doc.m_passedOver);
+    EXPECT_EQ(m_doc.m_writer.ToText(m_tree), m_doc.m_writer.ToText(inserted));
+    EXPECT_EQ(passedOver, m_passedOver);
 }
 
 }  // namespace

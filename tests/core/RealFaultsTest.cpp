@@ -149,7 +149,8 @@ std::string RunInChild(const Fault& fault, const CSampleWriter& writer, CSampleF
         if (failure.empty()) {
             const std::string path = folder + "/file.out";
             const std::string before = NamesIn(folder);
-            report << writer.write(sample, path) << '\n' << LastWriteError() << '\n';
+            const CWriteResult result = writer.write(sample, path);
+            report << result.code << '\n' << result.error << '\n';
             report << (ReadBytes(path) == kOld) << '\n'
                    << before << '\n'
                    << NamesIn(folder) << '\n';

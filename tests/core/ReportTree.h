@@ -12,8 +12,10 @@
 #include "base/LineStore.h"
 #include "base/TreeWalk.h"
 #include "gamedata/GameDatabase.h"
+#include "model/GameImport.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
+#include "model/Reports.h"
 
 // Infantry: 5 men a point, cost 2 a man, modifier 1.5 at quality 2 (15 a strength point).
 // Cavalry: 4 men, cost 3. Artillery: 2 men, cost 4. Leaders cost 10 at leadership 3.
@@ -37,7 +39,6 @@ protected:
     void SetUp() override {
         std::istringstream in(kReportTarget);
         m_db.ReadFrom(in);
-        m_doc.m_pDatabase = &m_db;
     }
 
     // Fills the tree from order-of-battle lines (no indentation needed: "Begin" and "End"
@@ -47,14 +48,14 @@ protected:
         for (const std::string& line : lines) {
             list.AddString(line);
         }
-        m_doc.PasteFromList(m_tree, TVI_ROOT, TVI_LAST, list);
+        m_doc.m_reader.PasteFromList(m_tree, TVI_ROOT, TVI_LAST, list);
     }
 
     HTREEITEM Find(const std::string& name) const { return FindLabel(m_tree, name); }
     std::string Shape(HTREEITEM parent = TVI_ROOT) const { return ::Shape(m_tree, parent); }
 
     CGameDatabase m_db;
-    COobDocument m_doc;
+    COobDocument m_doc{&m_db};
     CTreeStore m_tree;
 };
 

@@ -14,7 +14,7 @@ using Reports = CReportTree;
 TEST_F(Reports, KeysCountSiblingsPerLevel) {
     Build({"A North", "Begin", "C First", "Begin", "U 8 2 Fus Musket 0 0 One",
            "U 8 2 Fus Musket 0 0 Two", "End", "C Second", "Begin", "End", "End", "A South"});
-    const std::vector<std::string> lines = Lines(m_doc.KeyReport(m_tree));
+    const std::vector<std::string> lines = Lines(ReportText(m_tree, ReportKind::kKey));
     const std::vector<std::string> expected = {
         "Key Report created by Harnwick",
         "",
@@ -38,7 +38,7 @@ TEST_F(Reports, KeysCountSiblingsPerLevel) {
 TEST_F(Reports, CostReportLinesAndTheDepotCut) {
     Build({"A North", "Begin", "C First", "Begin", "U 8 2 Fus Musket 0 0 Line", "End", "End",
            "DEP 6 0 Stores", "A South", "Begin", "L 4 3 0 Late", "End"});
-    const std::vector<std::string> lines = Lines(m_doc.CostReport(m_tree));
+    const std::vector<std::string> lines = Lines(ReportText(m_tree, ReportKind::kCost));
     ASSERT_EQ(lines.size(), 8u);
     EXPECT_EQ(lines[3], "       Cost : Type        : Name");
     // The army's and corps' figures are their subtrees' totals (each echelon costs 1 itself).
@@ -46,9 +46,9 @@ TEST_F(Reports, CostReportLinesAndTheDepotCut) {
     EXPECT_EQ(lines[6], "     121.00 : Corps       :     First");
     EXPECT_EQ(lines[7], "     120.00 : Infantry    :         Line");
     // The depot ends the cost and leader reports, but not the key and HTML reports.
-    EXPECT_EQ(Lines(m_doc.LeaderReport(m_tree)).size(), 6u);
-    EXPECT_NE(m_doc.KeyReport(m_tree).find("South"), std::string::npos);
-    EXPECT_NE(m_doc.HtmlReport(m_tree, 0).find("South"), std::string::npos);
+    EXPECT_EQ(Lines(ReportText(m_tree, ReportKind::kLeader)).size(), 6u);
+    EXPECT_NE(ReportText(m_tree, ReportKind::kKey).find("South"), std::string::npos);
+    EXPECT_NE(ReportText(m_tree, ReportKind::kHtml, 0).find("South"), std::string::npos);
 }
 
 TEST_F(Reports, LeaderReportNumbersPlacesAndGrades) {
@@ -58,7 +58,7 @@ TEST_F(Reports, LeaderReportNumbersPlacesAndGrades) {
     }
     lines.push_back("L x 3 0 Odd");
     Build(lines);
-    const std::vector<std::string> report = Lines(m_doc.LeaderReport(m_tree));
+    const std::vector<std::string> report = Lines(ReportText(m_tree, ReportKind::kLeader));
     ASSERT_EQ(report.size(), 20u);
     // A leader at the top level commands no echelon: the column is blank.
     EXPECT_EQ(report[1], " 0   : (1 ,1 ) : C  : A  :             : Alone");
@@ -77,7 +77,7 @@ TEST_F(Reports, HtmlListsNestAndShowTotals) {
            "U 3 -2 Gun Cannon 0 0 Battery", "End", "C Empty", "Begin", "End", "S 6 0 Wagons", "End",
            "DEP 6 1 Stores", "GB 2 3 Cannon 0 River boat", "A Quiet", "Begin", "C Last", "Begin",
            "L 4 3 0 Chief"});
-    const std::vector<std::string> plain = Lines(m_doc.HtmlReport(m_tree, 0));
+    const std::vector<std::string> plain = Lines(ReportText(m_tree, ReportKind::kHtml, 0));
     const std::vector<std::string> expected = {
         "<HTML><HEAD><TITLE>Order of Battle</TITLE></HEAD>",
         "<BODY><TT><P ALIGN=center>HTML Report created by Harnwick</P>",
@@ -107,7 +107,7 @@ TEST_F(Reports, HtmlListsNestAndShowTotals) {
         "</DL></TT></BODY></HTML>",
     };
     EXPECT_EQ(plain, expected);
-    const std::string full = m_doc.HtmlReport(m_tree, HTML_COSTS | HTML_IMAGES);
+    const std::string full = ReportText(m_tree, ReportKind::kHtml, HTML_COSTS | HTML_IMAGES);
     EXPECT_NE(full.find("<DD><IMG SRC=symbol_army.jpg> <BIG>"), std::string::npos);
     EXPECT_NE(full.find("<DD><IMG SRC=symbol_unit.jpg> Line <SMALL>(Line foot <B>40</B>, Q "
                         "<B>2</B>, Cost <B>120</B>)</SMALL>"),
@@ -115,8 +115,8 @@ TEST_F(Reports, HtmlListsNestAndShowTotals) {
     EXPECT_NE(full.find("<DD><IMG SRC=symbol_leader.jpg> <I>Chief</I>"), std::string::npos);
     EXPECT_NE(full.find("<DD>Stores <SMALL>(Depot <B>6</B>)</SMALL>"), std::string::npos)
         << "a depot has no image and no cost";
-    EXPECT_EQ(m_doc.HtmlReport(m_tree, HTML_IMAGES).find("Cost"), std::string::npos);
-    EXPECT_EQ(m_doc.HtmlReport(m_tree, HTML_COSTS).find("<IMG"), std::string::npos);
+    EXPECT_EQ(ReportText(m_tree, ReportKind::kHtml, HTML_IMAGES).find("Cost"), std::string::npos);
+    EXPECT_EQ(ReportText(m_tree, ReportKind::kHtml, HTML_COSTS).find("<IMG"), std::string::npos);
 }
 
 // Each escaped character at every place of texts up to past two search widths, after text
@@ -146,12 +146,11 @@ TEST(HtmlText, EscapesAtAnyPlaceOfAnyLength) {
 TEST(ReportsOnTheSample, OnePassTotalsAgreeWithAggregate) {
     CGameDatabase db;
     ASSERT_EQ(db.Load(std::string(HW_SAMPLE_DIR) + "/valdoria.inf"), RESULT_DONE);
-    COobDocument doc;
-    doc.m_pDatabase = &db;
+    COobDocument doc(&db);
     CTreeStore tree;
     ASSERT_EQ(doc.LoadTree(std::string(HW_SAMPLE_DIR) + "/valdoria.oob", tree), RESULT_DONE);
     const int flags = HTML_COSTS | HTML_IMAGES;
-    const std::string report = doc.HtmlReport(tree, flags);
+    const std::string report = ReportText(tree, ReportKind::kHtml, flags);
     std::size_t checked = 0;
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
         std::string line;
@@ -160,7 +159,7 @@ TEST(ReportsOnTheSample, OnePassTotalsAgreeWithAggregate) {
         ++checked;
     }
     EXPECT_EQ(checked, tree.GetCount());
-    const std::string cost = doc.CostReport(tree);
+    const std::string cost = ReportText(tree, ReportKind::kCost);
     const HTREEITEM army = tree.GetRootItem();
     const double total = ItemOf(tree, army)->Aggregate(tree, army, CATEGORY_ALL, MEASURE_COST);
     EXPECT_NE(cost.find(Format(" %10.2f : ", total)), std::string::npos);

@@ -24,7 +24,6 @@ protected:
     void SetUp() override {
         ASSERT_EQ(m_database.Load(kSample + "valdoria.inf"), RESULT_DONE);
         m_database.m_pPrompts = &m_prompts;
-        m_document.m_pDatabase = &m_database;
     }
     // The sample names only records its game data holds, so any question is a fault.
     void TearDown() override {
@@ -33,7 +32,7 @@ protected:
 
     CRecordingPrompts m_prompts;
     CGameDatabase m_database;
-    COobDocument m_document;
+    COobDocument m_document{&m_database};
 };
 
 // The campaign and the attached order of battle: every entry with all its records, nothing added
@@ -58,7 +57,7 @@ TEST_F(SampleWorkspace, OrdersOfBattleReadCompletelyAndWriteBack) {
             EXPECT_GT(item->Cost(), 0.0) << item->m_strName;
         }
         EXPECT_TRUE(counts[TYPE_ARMY] == 2 && counts[TYPE_LEADER] > 0 && counts[TYPE_UNIT] > 0);
-        EXPECT_EQ(m_document.ToText(tree), bytes);
+        EXPECT_EQ(m_document.m_writer.ToText(tree), bytes);
     }
     EXPECT_EQ(m_database.m_Types.Count(), types);
 }
@@ -71,8 +70,9 @@ TEST_F(SampleWorkspace, TemplatesMatchTheirRecords) {
         const auto& record = static_cast<const CTemplateRecord&>(*n->m_pPayload);
         SCOPED_TRACE(record.m_strName);
         CTreeStore tree;
-        ASSERT_EQ(m_document.InsertTemplate(path, tree, TVI_ROOT, TVI_LAST, record.m_nOrdinal),
-                  RESULT_DONE);
+        ASSERT_EQ(
+            m_document.m_reader.InsertTemplate(path, tree, TVI_ROOT, TVI_LAST, record.m_nOrdinal),
+            RESULT_DONE);
         HTREEITEM top = tree.GetRootItem();
         ASSERT_NE(top, nullptr);
         EXPECT_EQ(tree.GetNextSiblingItem(top), nullptr);

@@ -10,26 +10,26 @@
 #include "base/TreeStore.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
+#include "model/Reports.h"
 #include "model/Workspace.h"
 
 struct CSampleFiles {
     CSampleFiles() {
         const std::string sample = HW_SAMPLE_DIR "/";
         database.Load(sample + "valdoria.inf");
-        document.m_pDatabase = &database;
         document.LoadTree(sample + "valdoria.oob", tree);
         workspace.Load(sample + "harnwick.txt");
     }
 
     CGameDatabase database;
-    COobDocument document;
+    COobDocument document{&database};
     CTreeStore tree;
     CWorkspace workspace;
 };
 
 struct CSampleWriter {
     const char* name;
-    std::function<int(CSampleFiles&, const std::string& path)> write;
+    std::function<CWriteResult(CSampleFiles&, const std::string& path)> write;
 };
 
 // The writers of the three files the editor keeps: order of battle, workspace, target file.
@@ -49,23 +49,27 @@ inline std::vector<CSampleWriter> AllWriters() {
     writers.insert(writers.end(), {
                                       {"new order of battle",
                                        [](CSampleFiles& s, const std::string& path) {
-                                           return s.document.CreateDefault(path);
+                                           return s.document.m_writer.CreateDefault(path);
                                        }},
                                       {"HTML report",
                                        [](CSampleFiles& s, const std::string& path) {
-                                           return s.document.WriteHtmlReport(path, s.tree, 0);
+                                           return WriteReport(s.document.m_writer.Buffer(), path,
+                                                              s.tree, ReportKind::kHtml, 0);
                                        }},
                                       {"cost report",
                                        [](CSampleFiles& s, const std::string& path) {
-                                           return s.document.WriteCostReport(path, s.tree);
+                                           return WriteReport(s.document.m_writer.Buffer(), path,
+                                                              s.tree, ReportKind::kCost);
                                        }},
                                       {"leader report",
                                        [](CSampleFiles& s, const std::string& path) {
-                                           return s.document.WriteLeaderReport(path, s.tree);
+                                           return WriteReport(s.document.m_writer.Buffer(), path,
+                                                              s.tree, ReportKind::kLeader);
                                        }},
                                       {"key report",
                                        [](CSampleFiles& s, const std::string& path) {
-                                           return s.document.WriteKeyReport(path, s.tree);
+                                           return WriteReport(s.document.m_writer.Buffer(), path,
+                                                              s.tree, ReportKind::kKey);
                                        }},
                                   });
     return writers;

@@ -43,7 +43,9 @@ TEST_F(Workspace, WritesNineLinesAndReadsThemBack) {
     ASSERT_EQ(loaded.Load(path), RESULT_DONE);
     EXPECT_EQ(Fields(loaded), Fields(m_fresh));
     EXPECT_EQ(loaded.m_strPath, path);
+    // The path changes only with a write that succeeded.
     EXPECT_EQ(m_fresh.Save(m_folder / "missing/w.txt"), RESULT_CANNOT_WRITE);
+    EXPECT_EQ(m_fresh.m_strPath, path);
 }
 
 // Tabs separate fields like bars and leading separators go; the lines the file lacks keep what

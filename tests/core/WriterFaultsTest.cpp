@@ -28,8 +28,9 @@ TEST(WriterFaults, AnyFailingOperationLeavesTheOldFile) {
             SCOPED_TRACE(fault.Name(dry.m_ops));
             WriteBytes(path, old);
             CFailingOps ops(fault);
-            EXPECT_EQ(WithOps(ops, write), RESULT_CANNOT_WRITE);
-            EXPECT_EQ(LastWriteError().rfind(path + ": ", 0), 0u) << LastWriteError();
+            const CWriteResult result = WithOps(ops, write);
+            EXPECT_EQ(result, RESULT_CANNOT_WRITE);
+            EXPECT_EQ(result.error.rfind(path + ": ", 0), 0u) << result.error;
             EXPECT_EQ(ReadBytes(path), old);
             EXPECT_EQ(folder.Names(), std::vector<std::string>{"file.out"});
         }

@@ -126,9 +126,8 @@ TEST_F(FileCommandsTest, NewEmptyWritesTheSkeletonOfTheTargetAndShowsIt) {
     // What the core writes for the sample's game data.
     CGameDatabase database;
     database.Load(folder / "valdoria.inf");
-    COobDocument document;
-    document.m_pDatabase = &database;
-    ASSERT_EQ(document.CreateDefault(folder / "expected.oob"), 0);
+    COobDocument document(&database);
+    ASSERT_EQ(document.m_writer.CreateDefault(folder / "expected.oob"), 0);
     const std::string skeleton = ReadBytes(folder / "expected.oob");
     ASSERT_EQ(skeleton.rfind("3\r\nA Army\r\n\tBegin\r\n", 0), 0u);
 

@@ -35,8 +35,7 @@ inline std::vector<std::string> LabelsOfFile(const std::string& oobFile,
                                              const std::string& target) {
     CGameDatabase database;
     database.Load(target);
-    COobDocument document;
-    document.m_pDatabase = &database;
+    COobDocument document(&database);
     CTreeCtrl tree;
     document.LoadTree(oobFile, tree);
     return Labels(tree);

@@ -1,22 +1,19 @@
-// The four reports of the order of battle: an HTML page and the cost, leader and key listings.
+// The text listings: the cost, leader and key reports, one line an entry, names indented by depth.
 #include <vector>
 
-#include "base/FileWriter.h"
 #include "base/HtmlText.h"
 #include "base/NumberText.h"
-#include "base/TextLines.h"
 #include "base/TreeWalk.h"
 #include "gamedata/GameRecords.h"
 #include "model/ContainerItems.h"
 #include "model/ContainerTotals.h"
 #include "model/LeaderItem.h"
-#include "model/OobDocument.h"
+#include "model/ReportParts.h"
 
 namespace {
 
 // What a typical entry takes in each report, line end included: the text is reserved for it once
 // rather than copied as it grows (a larger one still grows as usual).
-constexpr std::size_t kTypicalHtml = 128;
 constexpr std::size_t kTypicalListing = 72;
 
 std::string_view KindText(const COobItem* item) {
@@ -40,11 +37,6 @@ void AppendIndentedName(std::string& out, int depth, const COobItem* item) {
     out += kLineEnd;
 }
 
-void AppendLine(std::string& out, std::string_view line) {
-    out += line;
-    out += kLineEnd;
-}
-
 void AppendRule(std::string& out, std::size_t stars) {
     out.append(stars, '*');
     out += kLineEnd;
@@ -58,40 +50,6 @@ bool IsArmy(const COobItem* item) {
 }
 
 }  // namespace
-
-namespace {
-
-void AppendHtmlReport(std::string& out, const CTreeStore& tree, int flags) {
-    out.reserve(out.size() + tree.GetCount() * kTypicalHtml);
-    AppendLine(out, "<HTML><HEAD><TITLE>Order of Battle</TITLE></HEAD>");
-    AppendLine(out, "<BODY><TT><P ALIGN=center>HTML Report created by Harnwick</P>");
-    AppendLine(out, "<DL>");
-    const std::vector<CContainerTotals> totals = AllTotals(tree);
-    std::size_t index = 0;
-    for (CTreeWalk walk(tree, nullptr); !walk.Done(); ++index) {
-        const HTREEITEM entry = walk.Current();
-        const COobItem* item = ItemOf(tree, entry);
-        if (item) {
-            if (IsContainer(*item)) {
-                static_cast<const CStructureItem*>(item)->AppendHtml(out, totals[index], flags);
-            } else {
-                item->ToHtml(out, tree, entry, flags);
-            }
-        }
-        out += kLineEnd;
-        if (item && IsContainer(*item)) {
-            AppendLine(out, "<DL>");
-            if (entry->ChildCount() == 0) {
-                AppendLine(out, "</DL>");
-            }
-        }
-        const int result = walk.Step();
-        for (int i = result; i < 0; ++i) {
-            AppendLine(out, "</DL>");
-        }
-    }
-    AppendLine(out, "</DL></TT></BODY></HTML>");
-}
 
 void AppendCostReport(std::string& out, const CTreeStore& tree) {
     out.reserve(out.size() + tree.GetCount() * kTypicalListing);
@@ -194,54 +152,4 @@ void AppendKeyReport(std::string& out, const CTreeStore& tree) {
         out += " : ";
         AppendIndentedName(out, walk.Depth(), item);
     }
-}
-
-}  // namespace
-
-std::string COobDocument::HtmlReport(const CTreeStore& tree, int flags) {
-    std::string out;
-    AppendHtmlReport(out, tree, flags);
-    return out;
-}
-
-std::string COobDocument::CostReport(const CTreeStore& tree) {
-    std::string out;
-    AppendCostReport(out, tree);
-    return out;
-}
-
-std::string COobDocument::LeaderReport(const CTreeStore& tree) {
-    std::string out;
-    AppendLeaderReport(out, tree);
-    return out;
-}
-
-std::string COobDocument::KeyReport(const CTreeStore& tree) {
-    std::string out;
-    AppendKeyReport(out, tree);
-    return out;
-}
-
-int COobDocument::WriteHtmlReport(const std::string& path, const CTreeStore& tree, int flags) {
-    m_strWritten.clear();
-    AppendHtmlReport(m_strWritten, tree, flags);
-    return ReplaceFile(path, m_strWritten);
-}
-
-int COobDocument::WriteCostReport(const std::string& path, const CTreeStore& tree) {
-    m_strWritten.clear();
-    AppendCostReport(m_strWritten, tree);
-    return ReplaceFile(path, m_strWritten);
-}
-
-int COobDocument::WriteLeaderReport(const std::string& path, const CTreeStore& tree) {
-    m_strWritten.clear();
-    AppendLeaderReport(m_strWritten, tree);
-    return ReplaceFile(path, m_strWritten);
-}
-
-int COobDocument::WriteKeyReport(const std::string& path, const CTreeStore& tree) {
-    m_strWritten.clear();
-    AppendKeyReport(m_strWritten, tree);
-    return ReplaceFile(path, m_strWritten);
 }
