@@ -8,30 +8,46 @@
 
 namespace {
 
-// Reads a number field and steps over the delimiter after it.
-double Number(CLineTokenizer& t) {
-    const double value = t.ReadNumber();
-    ++t.Position();
-    return value;
-}
+// Fills the fields from a line, each followed by its delimiter.
+class CFieldReader : public CRecordFields {
+public:
+    explicit CFieldReader(CLineTokenizer& tokenizer) : m_tokenizer(tokenizer) {}
 
-std::string Text(CLineTokenizer& t) {
-    std::string value = t.ReadString();
-    ++t.Position();
-    return value;
-}
+    void Field(std::uint8_t& value) override { value = StoreTruncated<std::uint8_t>(Number()); }
+    void Field(std::int16_t& value) override { value = StoreTruncated<std::int16_t>(Number()); }
+    void Field(double& value) override { value = Number(); }
+    void Field(std::string& text) override { text = Text(); }
+    void Field(CNameText& text) override { text = Text(); }
 
-void Field(std::ostream& out, std::string_view text) {
-    out << text << '|';
-}
+private:
+    double Number() {
+        const double value = m_tokenizer.ReadNumber();
+        ++m_tokenizer.Position();
+        return value;
+    }
+    std::string Text() {
+        std::string value = m_tokenizer.ReadString();
+        ++m_tokenizer.Position();
+        return value;
+    }
 
-void Field(std::ostream& out, double value) {
-    out << FormatNumber(value) << '|';
-}
+    CLineTokenizer& m_tokenizer;
+};
 
-void IntField(std::ostream& out, long value) {
-    out << value << '|';
-}
+// Writes each field followed by the delimiter.
+class CFieldWriter : public CRecordFields {
+public:
+    explicit CFieldWriter(std::ostream& out) : m_out(out) {}
+
+    void Field(std::uint8_t& value) override { m_out << static_cast<unsigned>(value) << '|'; }
+    void Field(std::int16_t& value) override { m_out << value << '|'; }
+    void Field(double& value) override { m_out << FormatNumber(value) << '|'; }
+    void Field(std::string& text) override { m_out << text << '|'; }
+    void Field(CNameText& text) override { m_out << text << '|'; }
+
+private:
+    std::ostream& m_out;
+};
 
 }  // namespace
 
@@ -61,59 +77,38 @@ void CGameRecord::ReadFrom(std::istream& in) {
         m_nCode = kEndTag;
         return;
     }
-    ReadFields(tokenizer);
+    CFieldReader fields(tokenizer);
+    VisitFields(fields);
 }
 
-void CKindRecord::ReadFields(CLineTokenizer& t) {
-    m_nCode = StoreTruncated<std::uint8_t>(Number(t));
-    m_nLevel = StoreTruncated<std::uint8_t>(Number(t));
-    m_strKeyword = Text(t);
-    m_strName = Text(t);
-}
-
-void CKindRecord::WriteTo(std::ostream& out, std::uint8_t indent) {
+void CGameRecord::WriteTo(std::ostream& out, std::uint8_t indent) {
     WriteTabs(out, indent);
-    IntField(out, m_nCode);
-    IntField(out, m_nLevel);
-    Field(out, m_strKeyword);
-    Field(out, m_strName);
+    CFieldWriter fields(out);
+    VisitFields(fields);
     out << kLineEnd;
 }
 
-void CBaseTypeRecord::ReadFields(CLineTokenizer& t) {
-    m_nCode = StoreTruncated<std::uint8_t>(Number(t));
-    m_nBaseQuality = StoreTruncated<std::int16_t>(Number(t));
-    m_dQualityFactor = Number(t);
-    m_dBaseCost = Number(t);
-    m_nMenPerPoint = StoreTruncated<std::int16_t>(Number(t));
-    m_nMaxStrength = StoreTruncated<std::int16_t>(Number(t));
-    m_strName = Text(t);
+void CKindRecord::VisitFields(CRecordFields& f) {
+    f.Field(m_nCode);
+    f.Field(m_nLevel);
+    f.Field(m_strKeyword);
+    f.Field(m_strName);
 }
 
-void CBaseTypeRecord::WriteTo(std::ostream& out, std::uint8_t indent) {
-    WriteTabs(out, indent);
-    IntField(out, m_nCode);
-    IntField(out, m_nBaseQuality);
-    Field(out, m_dQualityFactor);
-    Field(out, m_dBaseCost);
-    IntField(out, m_nMenPerPoint);
-    IntField(out, m_nMaxStrength);
-    Field(out, m_strName);
-    out << kLineEnd;
+void CBaseTypeRecord::VisitFields(CRecordFields& f) {
+    f.Field(m_nCode);
+    f.Field(m_nBaseQuality);
+    f.Field(m_dQualityFactor);
+    f.Field(m_dBaseCost);
+    f.Field(m_nMenPerPoint);
+    f.Field(m_nMaxStrength);
+    f.Field(m_strName);
 }
 
-void CWeaponRecord::ReadFields(CLineTokenizer& t) {
-    m_strWeapon = Text(t);
-    m_dCostModifier = Number(t);
-    m_strName = Text(t);
-}
-
-void CWeaponRecord::WriteTo(std::ostream& out, std::uint8_t indent) {
-    WriteTabs(out, indent);
-    Field(out, m_strWeapon);
-    Field(out, m_dCostModifier);
-    Field(out, m_strName);
-    out << kLineEnd;
+void CWeaponRecord::VisitFields(CRecordFields& f) {
+    f.Field(m_strWeapon);
+    f.Field(m_dCostModifier);
+    f.Field(m_strName);
 }
 
 CTypeRecord::CTypeRecord() : CGameRecord("</D>"), m_Weapons(WeaponNameOf) {}
@@ -137,20 +132,15 @@ void CTypeRecord::ReadFrom(std::istream& in) {
     }
 }
 
-void CTypeRecord::ReadFields(CLineTokenizer& t) {
-    m_nCode = StoreTruncated<std::uint8_t>(Number(t));
-    m_strType = Text(t);
-    m_dCostModifier = Number(t);
-    m_strName = Text(t);
+void CTypeRecord::VisitFields(CRecordFields& f) {
+    f.Field(m_nCode);
+    f.Field(m_strType);
+    f.Field(m_dCostModifier);
+    f.Field(m_strName);
 }
 
 void CTypeRecord::WriteTo(std::ostream& out, std::uint8_t indent) {
-    WriteTabs(out, indent);
-    IntField(out, m_nCode);
-    Field(out, m_strType);
-    Field(out, m_dCostModifier);
-    Field(out, m_strName);
-    out << kLineEnd;
+    CGameRecord::WriteTo(out, indent);
     for (CDataListNode* n = m_Weapons.Head(); n; n = n->m_pNext) {
         n->m_pPayload->WriteTo(out, static_cast<std::uint8_t>(indent + 1));
     }
@@ -158,32 +148,15 @@ void CTypeRecord::WriteTo(std::ostream& out, std::uint8_t indent) {
     out << "</W>" << kLineEnd;
 }
 
-void CAttachedOobRecord::ReadFields(CLineTokenizer& t) {
-    m_strFile = Text(t);
-    m_strName = Text(t);
+void CAttachedOobRecord::VisitFields(CRecordFields& f) {
+    f.Field(m_strFile);
+    f.Field(m_strName);
 }
 
-void CAttachedOobRecord::WriteTo(std::ostream& out, std::uint8_t indent) {
-    WriteTabs(out, indent);
-    Field(out, m_strFile);
-    Field(out, m_strName);
-    out << kLineEnd;
-}
-
-void CTemplateRecord::ReadFields(CLineTokenizer& t) {
-    m_nCode = StoreTruncated<std::uint8_t>(Number(t));
-    m_nLevel = StoreTruncated<std::uint8_t>(Number(t));
-    m_nCountry = StoreTruncated<std::uint8_t>(Number(t));
-    m_dCost = Number(t);
-    m_strName = Text(t);
-}
-
-void CTemplateRecord::WriteTo(std::ostream& out, std::uint8_t indent) {
-    WriteTabs(out, indent);
-    IntField(out, m_nCode);
-    IntField(out, m_nLevel);
-    IntField(out, m_nCountry);
-    Field(out, m_dCost);
-    Field(out, m_strName);
-    out << kLineEnd;
+void CTemplateRecord::VisitFields(CRecordFields& f) {
+    f.Field(m_nCode);
+    f.Field(m_nLevel);
+    f.Field(m_nCountry);
+    f.Field(m_dCost);
+    f.Field(m_strName);
 }

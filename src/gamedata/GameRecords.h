@@ -8,7 +8,17 @@
 #include "base/DataList.h"
 #include "base/DataObject.h"
 
-class CLineTokenizer;
+// Takes a record's fields one by one, in the order of its line: the reader fills them from the
+// line, the writer writes them.
+class CRecordFields {
+public:
+    virtual ~CRecordFields() = default;
+    virtual void Field(std::uint8_t& value) = 0;
+    virtual void Field(std::int16_t& value) = 0;
+    virtual void Field(double& value) = 0;
+    virtual void Field(std::string& text) = 0;
+    virtual void Field(CNameText& text) = 0;
+};
 
 // Every record carries a status: kNotRead after construction, kEndTag once the line it read
 // was its section's end tag (or the file had ended). In kinds, base types, types and templates
@@ -23,13 +33,16 @@ public:
 
     // Reads one line: either the end tag or the record's fields.
     void ReadFrom(std::istream& in) override;
+    // Writes the record's line, indent tabs deep.
+    void WriteTo(std::ostream& out, std::uint8_t indent) override;
     bool IsEnd() const { return m_nCode == kEndTag; }
 
     std::uint8_t m_nCode = kNotRead;
 
 protected:
-    // Fills the fields from a line that is not the end tag; the tokenizer is at field 0.
-    virtual void ReadFields(CLineTokenizer& tokenizer) = 0;
+    // Hands every field of the line to fields, in the line's order: the one list of the fields
+    // that both ReadFrom and WriteTo go through.
+    virtual void VisitFields(CRecordFields& fields) = 0;
 
 private:
     const char* m_pEndTag;
@@ -39,21 +52,19 @@ private:
 class CKindRecord : public CGameRecord {
 public:
     CKindRecord() : CGameRecord("</B>") {}
-    void WriteTo(std::ostream& out, std::uint8_t indent) override;
     std::uint8_t TypeCode() const { return m_nCode; }
 
     std::uint8_t m_nLevel = 0;
     std::string m_strKeyword;
 
 protected:
-    void ReadFields(CLineTokenizer& tokenizer) override;
+    void VisitFields(CRecordFields& fields) override;
 };
 
 // The cost parameters of a unit class (section C).
 class CBaseTypeRecord : public CGameRecord {
 public:
     CBaseTypeRecord() : CGameRecord("</C>") {}
-    void WriteTo(std::ostream& out, std::uint8_t indent) override;
     std::uint8_t ClassCode() const { return m_nCode; }
 
     std::int16_t m_nBaseQuality = 0;
@@ -63,20 +74,19 @@ public:
     std::int16_t m_nMaxStrength = 0;
 
 protected:
-    void ReadFields(CLineTokenizer& tokenizer) override;
+    void VisitFields(CRecordFields& fields) override;
 };
 
 // A weapon a type may carry; lives in its type's list.
 class CWeaponRecord : public CGameRecord {
 public:
     CWeaponRecord() : CGameRecord("</W>") {}
-    void WriteTo(std::ostream& out, std::uint8_t indent) override;
 
     std::string m_strWeapon;
     double m_dCostModifier = 0.0;
 
 protected:
-    void ReadFields(CLineTokenizer& tokenizer) override;
+    void VisitFields(CRecordFields& fields) override;
 };
 
 // A unit type, leader command, supply or structure type (section D), with its weapons.
@@ -92,26 +102,24 @@ public:
     CDataList m_Weapons;
 
 protected:
-    void ReadFields(CLineTokenizer& tokenizer) override;
+    void VisitFields(CRecordFields& fields) override;
 };
 
 // A ready-made order of battle that New, Attached OOB can copy (section E).
 class CAttachedOobRecord : public CGameRecord {
 public:
     CAttachedOobRecord() : CGameRecord("</E>") {}
-    void WriteTo(std::ostream& out, std::uint8_t indent) override;
 
     std::string m_strFile;
 
 protected:
-    void ReadFields(CLineTokenizer& tokenizer) override;
+    void VisitFields(CRecordFields& fields) override;
 };
 
 // One template of the template file (section F).
 class CTemplateRecord : public CGameRecord {
 public:
     CTemplateRecord() : CGameRecord("</F>") {}
-    void WriteTo(std::ostream& out, std::uint8_t indent) override;
     std::uint8_t TypeCode() const { return m_nCode; }
 
     std::uint8_t m_nLevel = 0;
@@ -120,7 +128,7 @@ public:
     double m_dCost = 0.0;
 
 protected:
-    void ReadFields(CLineTokenizer& tokenizer) override;
+    void VisitFields(CRecordFields& fields) override;
 };
 
 // The keys the record lists are indexed by.
