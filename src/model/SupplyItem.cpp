@@ -18,55 +18,30 @@ double CostByType(const COobItem& item, int count) {
            item.m_pBaseType->m_dBaseCost;
 }
 
-namespace {
-
-void AppendLine(std::string& out, const COobItem& item, std::int32_t first, std::int32_t second) {
-    const std::string_view keyword = item.m_pKind ? item.m_pKind->m_strKeyword : std::string_view();
-    CLineWriter line(out,
-                     keyword.size() + item.m_strName.size() + 2 * (CLineWriter::kNumberRoom + 1));
-    line.Text(keyword).Number(first).Char(' ').Number(second).Char(' ').Text(item.m_strName);
-}
-
-double SupplyMen(const COobItem& item, std::int16_t supply) {
-    return item.m_pBaseType ? static_cast<double>(item.m_pBaseType->m_nMenPerPoint) * supply : 0.0;
-}
-
-}  // namespace
-
-void CSupplyItem::ReadFields(CItemLineReader& reader) {
+template <typename Number>
+void CSupplyPoints<Number>::ReadFields(CItemLineReader& reader) {
     FindRecordsByKeyword(*this);
     m_nSupply = reader.Number<std::int16_t>();
-    m_nPicture = reader.Number<std::int16_t>();
+    m_nNumber = reader.Number<Number>();
     m_strName = reader.Rest();
 }
 
-void CSupplyItem::ToText(std::string& out) const {
-    AppendLine(out, *this, m_nSupply, m_nPicture);
+template <typename Number>
+void CSupplyPoints<Number>::ToText(std::string& out) const {
+    const std::string_view keyword = m_pKind ? m_pKind->m_strKeyword : std::string_view();
+    CLineWriter line(out, keyword.size() + m_strName.size() + 2 * (CLineWriter::kNumberRoom + 1));
+    line.Text(keyword).Number(m_nSupply).Char(' ').Number(m_nNumber).Char(' ').Text(m_strName);
 }
 
-double CSupplyItem::Cost() const {
+template <typename Number>
+double CSupplyPoints<Number>::Cost() const {
     return CostByType(*this, m_nSupply);
 }
 
-double CSupplyItem::Men() const {
-    return SupplyMen(*this, m_nSupply);
+template <typename Number>
+double CSupplyPoints<Number>::Men() const {
+    return m_pBaseType ? static_cast<double>(m_pBaseType->m_nMenPerPoint) * m_nSupply : 0.0;
 }
 
-void CDepotItem::ReadFields(CItemLineReader& reader) {
-    FindRecordsByKeyword(*this);
-    m_nSupply = reader.Number<std::int16_t>();
-    m_nNumber = reader.Number<std::int32_t>();
-    m_strName = reader.Rest();
-}
-
-void CDepotItem::ToText(std::string& out) const {
-    AppendLine(out, *this, m_nSupply, m_nNumber);
-}
-
-double CDepotItem::Cost() const {
-    return CostByType(*this, m_nSupply);
-}
-
-double CDepotItem::Men() const {
-    return SupplyMen(*this, m_nSupply);
-}
+template class CSupplyPoints<std::int16_t>;
+template class CSupplyPoints<std::int32_t>;

@@ -3,38 +3,38 @@
 
 #include "model/OobItem.h"
 
-class CSupplyItem : public COobItem {
+// What supply trains and depots share: supply points, costed and counted as men, then one more
+// number on the line, as wide as Number (a train's picture, a depot's own number), then the name.
+template <typename Number>
+class CSupplyPoints : public COobItem {
+public:
+    void ReadFields(CItemLineReader& reader) override;
+    void ToText(std::string& out) const override;
+    double Cost() const override;
+    double Men() const override;
+
+    std::int16_t m_nSupply = 0;
+    Number m_nNumber = 0;
+};
+
+class CSupplyItem : public CSupplyPoints<std::int16_t> {
 public:
     CSupplyItem() { m_nType = TYPE_SUPPLY; }
 
-    void ReadFields(CItemLineReader& reader) override;
-    void ToText(std::string& out) const override;
     void ToHtml(std::string& out, const CTreeStore& tree, HTREEITEM entry,
                 int flags) const override;
-    double Cost() const override;
-    double Men() const override;
     std::unique_ptr<COobItem> Clone() const override {
         return std::make_unique<CSupplyItem>(*this);
     }
-
-    std::int16_t m_nSupply = 0;
-    std::int16_t m_nPicture = 0;
 };
 
-class CDepotItem : public COobItem {
+class CDepotItem : public CSupplyPoints<std::int32_t> {
 public:
     CDepotItem() { m_nType = TYPE_DEPOT; }
 
-    void ReadFields(CItemLineReader& reader) override;
-    void ToText(std::string& out) const override;
     void ToHtml(std::string& out, const CTreeStore& tree, HTREEITEM entry,
                 int flags) const override;
-    double Cost() const override;
-    double Men() const override;
     std::unique_ptr<COobItem> Clone() const override { return std::make_unique<CDepotItem>(*this); }
-
-    std::int16_t m_nSupply = 0;
-    std::int32_t m_nNumber = 0;
 };
 
 // The type record named like the item's kind keyword, and its base type: how supplies, depots,

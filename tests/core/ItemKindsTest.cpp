@@ -47,7 +47,7 @@ std::string Fields(const COobItem& item) {
         return Format("%s %d %d", type, d->m_nSupply, d->m_nNumber) + name;
     }
     if (const auto* s = dynamic_cast<const CSupplyItem*>(&item)) {
-        return Format("%s %d %d", type, s->m_nSupply, s->m_nPicture) + name;
+        return Format("%s %d %d", type, s->m_nSupply, s->m_nNumber) + name;
     }
     if (const auto* g = dynamic_cast<const CGunboatItem*>(&item)) {
         return Format("%s %d %d %s %d", type, g->m_nStrength, g->m_nQuality, weapon,
