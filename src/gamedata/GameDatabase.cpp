@@ -12,23 +12,14 @@
 
 namespace {
 
-class CHeaderLine {
+// One line of the header, read field by field.
+class CHeaderLine : public CFieldReader {
 public:
-    explicit CHeaderLine(std::istream& in) {
+    explicit CHeaderLine(std::istream& in) : CFieldReader(m_tokenizer) {
         std::string line;
         ReadTextLine(in, line);
         m_tokenizer.SetDelimiter('|');
         m_tokenizer.SetLine(line);
-    }
-    double Number() {
-        const double value = m_tokenizer.ReadNumber();
-        ++m_tokenizer.Position();
-        return value;
-    }
-    std::string Text() {
-        std::string value = m_tokenizer.ReadString();
-        ++m_tokenizer.Position();
-        return value;
     }
 
 private:
@@ -78,34 +69,38 @@ CGameDatabase::CGameDatabase() : m_Kinds(KeywordOf), m_Types(TypeNameOf) {
     m_nType = TYPE_DATABASE;
 }
 
+void CGameDatabase::VisitSwitches(CRecordFields& f) {
+    f.Field(m_nOobHeader);
+    f.Field(m_nDefaultThird);
+    f.Field(m_nLeaderExtras);
+    f.Field(m_nDefaultReserved);
+    f.Field(m_nFormatVariant);
+    f.Field(m_dFanaticBonus);
+    f.Field(m_nMinQuality);
+    f.Field(m_nMaxQuality);
+    f.Field(m_nCountryCount);
+}
+
 void CGameDatabase::ReadFrom(std::istream& in) {
-    m_strName = CHeaderLine(in).Text();
+    CHeaderLine(in).Field(m_strName);
     CHeaderLine geometry(in);
     for (auto& value : m_nIconGeometry) {
-        value = StoreTruncated<std::uint8_t>(geometry.Number());
+        geometry.Field(value);
     }
     CHeaderLine sizes(in);
     for (auto& value : m_nCellSizes) {
-        value = StoreTruncated<std::int16_t>(sizes.Number());
+        sizes.Field(value);
     }
     CHeaderLine switches(in);
-    m_nOobHeader = StoreTruncated<std::uint8_t>(switches.Number());
-    m_nDefaultThird = StoreTruncated<std::uint8_t>(switches.Number());
-    m_nLeaderExtras = StoreTruncated<std::uint8_t>(switches.Number());
-    m_nDefaultReserved = StoreTruncated<std::uint8_t>(switches.Number());
-    m_nFormatVariant = StoreTruncated<std::uint8_t>(switches.Number());
-    m_dFanaticBonus = switches.Number();
-    m_nMinQuality = StoreTruncated<std::int16_t>(switches.Number());
-    m_nMaxQuality = StoreTruncated<std::int16_t>(switches.Number());
+    VisitSwitches(switches);
     // The list has room for ten names: a larger count is cut to ten, so that the file written
     // back names as many countries as it counts.
-    m_nCountryCount = StoreTruncated<std::uint8_t>(switches.Number());
     if (m_nCountryCount > kMaxCountries) {
         m_nCountryCount = kMaxCountries;
     }
     CHeaderLine countries(in);
     for (std::size_t i = 0; i < m_nCountryCount; ++i) {
-        m_strCountries[i] = countries.Text();
+        countries.Field(m_strCountries[i]);
     }
     std::string skipped;
     ReadTextLine(in, skipped);  // the end of the header, whatever it holds
@@ -114,7 +109,7 @@ void CGameDatabase::ReadFrom(std::istream& in) {
     ReadSection<CBaseTypeRecord>(in, m_BaseTypes);
     ReadSection<CTypeRecord>(in, m_Types);
     ReadSection<CAttachedOobRecord>(in, m_AttachedOobs);
-    m_strTemplateFile = CHeaderLine(in).Text();
+    CHeaderLine(in).Field(m_strTemplateFile);
     const int before = m_Templates.Count();
     ReadSection<CTemplateRecord>(in, m_Templates);
     int ordinal = 0;
@@ -125,22 +120,22 @@ void CGameDatabase::ReadFrom(std::istream& in) {
 }
 
 void CGameDatabase::WriteTo(std::ostream& out, std::uint8_t) {
-    out << '\t' << m_strName << '|' << kLineEnd << '\t';
-    for (auto value : m_nIconGeometry) {
-        out << static_cast<unsigned>(value) << '|';
+    CFieldWriter fields(out);
+    out << '\t';
+    fields.Field(m_strName);
+    out << kLineEnd << '\t';
+    for (auto& value : m_nIconGeometry) {
+        fields.Field(value);
     }
     out << kLineEnd << '\t';
-    for (auto value : m_nCellSizes) {
-        out << value << '|';
+    for (auto& value : m_nCellSizes) {
+        fields.Field(value);
     }
-    out << kLineEnd << '\t' << static_cast<unsigned>(m_nOobHeader) << '|'
-        << static_cast<unsigned>(m_nDefaultThird) << '|' << static_cast<unsigned>(m_nLeaderExtras)
-        << '|' << static_cast<unsigned>(m_nDefaultReserved) << '|'
-        << static_cast<unsigned>(m_nFormatVariant) << '|' << FormatNumber(m_dFanaticBonus) << '|'
-        << m_nMinQuality << '|' << m_nMaxQuality << '|' << static_cast<unsigned>(m_nCountryCount)
-        << '|' << kLineEnd << '\t';
+    out << kLineEnd << '\t';
+    VisitSwitches(fields);
+    out << kLineEnd << '\t';
     for (std::size_t i = 0; i < m_nCountryCount && i < kMaxCountries; ++i) {
-        out << m_strCountries[i] << '|';
+        fields.Field(m_strCountries[i]);
     }
     out << kLineEnd << "</A>" << kLineEnd;
     WriteSection(out, m_Kinds, "</B>");
@@ -150,7 +145,9 @@ void CGameDatabase::WriteTo(std::ostream& out, std::uint8_t) {
     WriteSection(out, m_Types, "</D>");
     out << kLineEnd;
     WriteSection(out, m_AttachedOobs, "</E>");
-    out << kLineEnd << '\t' << m_strTemplateFile << '|' << kLineEnd;
+    out << kLineEnd << '\t';
+    fields.Field(m_strTemplateFile);
+    out << kLineEnd;
     WriteSection(out, m_Templates, "</F>");  // the file's last line has no line break
 }
 

@@ -14,6 +14,7 @@
 #include "gamedata/KindIndex.h"
 
 class CReaderPrompts;
+class CRecordFields;
 
 class CGameDatabase : public CDataObject {
 public:
@@ -70,6 +71,9 @@ public:
     CReaderPrompts* m_pPrompts = nullptr;
 
 private:
+    // The fields of the header's switches line, in the line's order, for its reader and writer.
+    void VisitSwitches(CRecordFields& fields);
+
     CKindIndex m_KindIndex;
     CBaseTypeIndex m_BaseTypeIndex;
 };

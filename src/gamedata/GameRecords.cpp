@@ -6,51 +6,6 @@
 #include "base/LineTokenizer.h"
 #include "base/TextLines.h"
 
-namespace {
-
-// Fills the fields from a line, each followed by its delimiter.
-class CFieldReader : public CRecordFields {
-public:
-    explicit CFieldReader(CLineTokenizer& tokenizer) : m_tokenizer(tokenizer) {}
-
-    void Field(std::uint8_t& value) override { value = StoreTruncated<std::uint8_t>(Number()); }
-    void Field(std::int16_t& value) override { value = StoreTruncated<std::int16_t>(Number()); }
-    void Field(double& value) override { value = Number(); }
-    void Field(std::string& text) override { text = Text(); }
-    void Field(CNameText& text) override { text = Text(); }
-
-private:
-    double Number() {
-        const double value = m_tokenizer.ReadNumber();
-        ++m_tokenizer.Position();
-        return value;
-    }
-    std::string Text() {
-        std::string value = m_tokenizer.ReadString();
-        ++m_tokenizer.Position();
-        return value;
-    }
-
-    CLineTokenizer& m_tokenizer;
-};
-
-// Writes each field followed by the delimiter.
-class CFieldWriter : public CRecordFields {
-public:
-    explicit CFieldWriter(std::ostream& out) : m_out(out) {}
-
-    void Field(std::uint8_t& value) override { m_out << static_cast<unsigned>(value) << '|'; }
-    void Field(std::int16_t& value) override { m_out << value << '|'; }
-    void Field(double& value) override { m_out << FormatNumber(value) << '|'; }
-    void Field(std::string& text) override { m_out << text << '|'; }
-    void Field(CNameText& text) override { m_out << text << '|'; }
-
-private:
-    std::ostream& m_out;
-};
-
-}  // namespace
-
 std::string_view TypeNameOf(const CDataObject& record) {
     return static_cast<const CTypeRecord&>(record).m_strType;
 }

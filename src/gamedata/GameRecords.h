@@ -7,18 +7,7 @@
 
 #include "base/DataList.h"
 #include "base/DataObject.h"
-
-// Takes a record's fields one by one, in the order of its line: the reader fills them from the
-// line, the writer writes them.
-class CRecordFields {
-public:
-    virtual ~CRecordFields() = default;
-    virtual void Field(std::uint8_t& value) = 0;
-    virtual void Field(std::int16_t& value) = 0;
-    virtual void Field(double& value) = 0;
-    virtual void Field(std::string& text) = 0;
-    virtual void Field(CNameText& text) = 0;
-};
+#include "gamedata/RecordFields.h"
 
 // Every record carries a status: kNotRead after construction, kEndTag once the line it read
 // was its section's end tag (or the file had ended). In kinds, base types, types and templates

@@ -42,6 +42,13 @@ void AppendRule(std::string& out, std::size_t stars) {
     out += kLineEnd;
 }
 
+// The column titles between two rules of stars, at the head of each army's part.
+void AppendTitles(std::string& out, std::size_t stars, std::string_view titles) {
+    AppendRule(out, stars);
+    AppendLine(out, titles);
+    AppendRule(out, stars);
+}
+
 bool IsDepot(const COobItem* item) {
     return item && item->m_nType == TYPE_DEPOT;
 }
@@ -60,9 +67,7 @@ void AppendCostReport(std::string& out, const CTreeStore& tree) {
         const COobItem* item = ItemOf(tree, walk.Current());
         if (IsArmy(item)) {
             AppendLine(out, "");
-            AppendRule(out, 32);
-            AppendLine(out, "       Cost : Type        : Name");
-            AppendRule(out, 32);
+            AppendTitles(out, 32, "       Cost : Type        : Name");
         }
         if (IsDepot(item)) {
             break;
@@ -87,9 +92,7 @@ void AppendLeaderReport(std::string& out, const CTreeStore& tree) {
         if (IsArmy(item)) {
             AppendLine(out, "");
             AppendLine(out, "Army : " + item->m_strName);
-            AppendRule(out, 45);
-            AppendLine(out, " No  : (X,Y)   : Cm : Ld : Commands    : Name");
-            AppendRule(out, 45);
+            AppendTitles(out, 45, " No  : (X,Y)   : Cm : Ld : Commands    : Name");
         }
         if (IsDepot(item)) {
             break;
@@ -134,9 +137,7 @@ void AppendKeyReport(std::string& out, const CTreeStore& tree) {
         const COobItem* item = ItemOf(tree, walk.Current());
         if (IsArmy(item)) {
             AppendLine(out, "");
-            AppendRule(out, 37);
-            AppendLine(out, " Key            : Type        :  Name");
-            AppendRule(out, 37);
+            AppendTitles(out, 37, " Key            : Type        :  Name");
         }
         const std::size_t depth = static_cast<std::size_t>(walk.Depth());
         counters.resize(depth + 1, 0);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <filesystem>
 #include <fstream>
 #include <memory>
 
@@ -112,12 +111,8 @@ void COobReader::PassOver(std::string_view line) {
 }
 
 int COobReader::LoadTree(const std::string& path, CTreeStore& tree) {
-    std::error_code error;
-    if (std::filesystem::is_directory(path, error)) {
-        return RESULT_CANNOT_OPEN;
-    }
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    std::ifstream in;
+    if (!OpenToRead(path, in)) {
         return RESULT_CANNOT_OPEN;
     }
     m_nLineNumber = 0;
