@@ -12,18 +12,23 @@
 
 namespace {
 
-// One line of the header, read field by field.
-class CHeaderLine : public CFieldReader {
-public:
-    explicit CHeaderLine(std::istream& in) : CFieldReader(m_tokenizer) {
+// The next line of the header, taken apart at its bars.
+struct CHeaderTokenizer {
+    explicit CHeaderTokenizer(std::istream& in) {
         std::string line;
         ReadTextLine(in, line);
-        m_tokenizer.SetDelimiter('|');
-        m_tokenizer.SetLine(line);
+        tokenizer.SetDelimiter('|');
+        tokenizer.SetLine(line);
     }
 
-private:
-    CLineTokenizer m_tokenizer;
+    CLineTokenizer tokenizer;
+};
+
+// One line of the header, read field by field. The tokenizer, a base listed first, is made
+// before the reader that reads from it.
+class CHeaderLine : private CHeaderTokenizer, public CFieldReader {
+public:
+    explicit CHeaderLine(std::istream& in) : CHeaderTokenizer(in), CFieldReader(tokenizer) {}
 };
 
 // Every record a section's line gives is kept, but a type without a name (a blank line, say):
