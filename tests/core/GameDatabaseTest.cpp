@@ -6,7 +6,6 @@
 #include <sstream>
 #include <string>
 
-#include "HostileInputs.h"
 #include "TempFolder.h"
 #include "base/Result.h"
 #include "base/TextLines.h"
@@ -14,7 +13,14 @@
 
 namespace {
 
-using hostile::Replace;
+// text with every from replaced by to.
+std::string Replace(std::string text, const std::string& from, const std::string& to) {
+    for (std::size_t at = text.find(from); at != std::string::npos;
+         at = text.find(from, at + to.size())) {
+        text.replace(at, from.size(), to);
+    }
+    return text;
+}
 
 // A small target file exactly as the writer lays it out.
 const std::string kGolden =

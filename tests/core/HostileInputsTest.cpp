@@ -1,0 +1,339 @@
+// Every reader against the inputs no well-formed file holds: the cases are the files under
+// tests/data/hostile/<reader>/, each an input and the exact outcome the reader must give
+// (tests/data/hostile/README.md describes the format).
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "ReportTree.h"
+#include "SmallGameData.h"
+#include "TempFolder.h"
+#include "TestTrees.h"
+#include "WorkspaceFields.h"
+#include "base/LineStore.h"
+#include "base/Result.h"
+#include "base/TextLines.h"
+#include "base/TreeWalk.h"
+#include "gamedata/GameRecords.h"
+#include "model/OobDocument.h"
+#include "model/SupplyItem.h"
+#include "model/UnitItem.h"
+#include "model/Workspace.h"
+
+namespace {
+
+const std::string kHostile = std::string(HW_TEST_DATA) + "/hostile";
+
+// Random bytes with none of the bytes in banned, the same on every run for one seed.
+std::string Noise(std::size_t size, const std::string& banned, unsigned seed) {
+    std::mt19937 random(seed);
+    std::string bytes;
+    while (bytes.size() < size) {
+        const char c = static_cast<char>(random());
+        if (banned.find(c) == std::string::npos) {
+            bytes += c;
+        }
+    }
+    return bytes;
+}
+
+// The pieces of a case line: "text" with \r \n \t \\ \" \xHH escapes, repeat N PIECE,
+// noise N "banned" SEED and ( PIECE ... ), all run together.
+class CPieces {
+public:
+    explicit CPieces(const std::string& text) : m_text(text) {}
+
+    std::string All() {
+        std::string out;
+        while (Skip() < m_text.size() && m_text[m_at] != ')') {
+            out += One();
+        }
+        return out;
+    }
+
+private:
+    std::size_t Skip() {
+        while (m_at < m_text.size() && m_text[m_at] == ' ') {
+            ++m_at;
+        }
+        return m_at;
+    }
+    std::string Word() {
+        Skip();
+        const std::size_t start = m_at;
+        m_at = std::min(m_text.find(' ', m_at), m_text.size());
+        return m_text.substr(start, m_at - start);
+    }
+    std::string One() {
+        if (m_text[m_at] == '"') {
+            return Quoted();
+        }
+        if (m_text[m_at] == '(') {
+            ++m_at;
+            std::string group = All();
+            EXPECT_EQ(m_text[std::min(Skip(), m_text.size() - 1)], ')') << m_text;
+            ++m_at;
+            return group;
+        }
+        const std::string word = Word();
+        const std::size_t n = std::stoul(Word());
+        Skip();
+        if (word == "repeat") {
+            const std::string piece = One();
+            std::string out;
+            for (std::size_t i = 0; i < n; ++i) {
+                out += piece;
+            }
+            return out;
+        }
+        EXPECT_EQ(word, "noise") << m_text;
+        const std::string banned = Quoted();
+        return Noise(n, banned, static_cast<unsigned>(std::stoul(Word())));
+    }
+    std::string Quoted() {
+        std::string out;
+        for (++m_at; m_at < m_text.size() && m_text[m_at] != '"'; ++m_at) {
+            if (m_text[m_at] != '\\') {
+                out += m_text[m_at];
+                continue;
+            }
+            const char c = m_text[++m_at];
+            if (c == 'x') {
+                out += static_cast<char>(std::stoi(m_text.substr(m_at + 1, 2), nullptr, 16));
+                m_at += 2;
+            } else {
+                out += c == 'r' ? '\r' : c == 'n' ? '\n' : c == 't' ? '\t' : c;
+            }
+        }
+        ++m_at;
+        return out;
+    }
+
+    const std::string& m_text;
+    std::size_t m_at = 0;
+};
+
+struct CCase {
+    std::string input, option, result, written;
+    std::vector<std::string> afterLines;  // a cut case: the result after 0, 1, ... whole lines
+    bool partialLineRead = false;         // a cut inside a line reads it as the file's last
+};
+
+CCase ReadCase(const std::string& path) {
+    CCase c;
+    std::istringstream in(ReadBytes(path));
+    for (std::string line; std::getline(in, line);) {
+        const std::size_t blank = line.find(' ');
+        const std::string key = line.substr(0, blank);
+        const std::string rest = blank == std::string::npos ? "" : line.substr(blank + 1);
+        if (key == "input") {
+            c.input += CPieces(rest).All();
+        } else if (key == "result") {
+            c.result += CPieces(rest).All();
+        } else if (key == "written") {
+            c.written += CPieces(rest).All();
+        } else if (key == "option") {
+            c.option = rest;
+        } else if (key == "after-lines") {
+            c.afterLines.push_back(CPieces(rest).All());
+        } else if (key == "partial-line") {
+            c.partialLineRead = rest == "read";
+        } else {
+            EXPECT_TRUE(key.empty() || key[0] == '#') << path << ": " << line;
+        }
+    }
+    return c;
+}
+
+// What a reader made of an input: the result compared whole, and the text written back from it,
+// which must hold the case's written bytes.
+struct COutcome {
+    std::string result, written;
+};
+
+struct CReader {
+    std::function<COutcome(const std::string& input, const std::string& option)> read;
+    bool readsBack;  // what it writes reads back as the same outcome
+};
+
+COutcome ReadOob(const std::string& text, const std::string&) {
+    CTempFolder folder;
+    WriteBytes(folder / "in.oob", text);
+    CGameDatabase db;
+    LoadSmallGameData(db);
+    COobDocument doc;
+    doc.m_pDatabase = &db;
+    CTreeStore tree;
+    EXPECT_EQ(doc.LoadTree(folder / "in.oob", tree), RESULT_DONE);
+    return {Shape(tree), doc.ToText(tree)};
+}
+
+// Inserts block number option of the input under an army P that holds one unit W.
+COutcome InsertTemplate(const std::string& text, const std::string& option) {
+    CTempFolder folder;
+    WriteBytes(folder / "army.oob", "3\nA P\n\tBegin\n\tU 1 1 Foot Musket 0 0 W\n");
+    WriteBytes(folder / "in.tpl", text);
+    CGameDatabase db;
+    LoadSmallGameData(db);
+    COobDocument doc;
+    doc.m_pDatabase = &db;
+    CTreeStore tree;
+    EXPECT_EQ(doc.LoadTree(folder / "army.oob", tree), RESULT_DONE);
+    EXPECT_EQ(doc.InsertTemplate(folder / "in.tpl", tree, tree.GetRootItem(), TVI_LAST,
+                                 std::stoi(option)),
+              RESULT_DONE);
+    return {Shape(tree), doc.ToText(tree)};
+}
+
+// Kinds, base types, types, weapons, attached orders of battle and templates read.
+COutcome ReadTarget(const std::string& text, const std::string&) {
+    CGameDatabase db;
+    std::istringstream in(text);
+    db.ReadFrom(in);
+    int weapons = 0;
+    for (CDataListNode* n = db.m_Types.Head(); n; n = n->m_pNext) {
+        weapons += static_cast<CTypeRecord&>(*n->m_pPayload).m_Weapons.Count();
+    }
+    return {Format("k%d b%d t%d w%d o%d f%d", db.m_Kinds.Count(), db.m_BaseTypes.Count(),
+                   db.m_Types.Count(), weapons, db.m_AttachedOobs.Count(), db.m_Templates.Count()),
+            db.ToText()};
+}
+
+COutcome ReadWorkspace(const std::string& text, const std::string&) {
+    CWorkspace w;
+    std::istringstream in(text);
+    w.ReadFrom(in);
+    return {Fields(w), ""};
+}
+
+// 1 North: 1.1 Chief, 1.2 First (1.2.1 Line 8, 1.2.2 Guns 6, 1.2.3 Wagons 9);
+// 2 South: 2.1 Staff (2.1.1 Aide, 2.1.2 Foot 5).
+const char* const kImportTree[] = {
+    "A North", "Begin",   "L 4 3 0 Chief", "C First", "Begin", "U 8 2 Fus Musket 0 0 Line",
+    "U 6 2 Gun Cannon 0 0 Guns", "S 9 0 Wagons", "End", "End", "A South", "Begin", "C Staff",
+    "Begin",   "L 4 3 0 Aide", "U 5 2 Fus Musket 0 0 Foot"};
+
+// Imports the input as a game file into the tree above, the option naming what happens to the
+// entries it misses; the tree and the strength or supply of every unit and supply left.
+COutcome Import(const std::string& text, const std::string& option) {
+    const std::map<std::string, int> flags = {
+        {"keep", 0},
+        {"zero", IMPORT_ZERO_MISSING},
+        {"remove", IMPORT_REMOVE_MISSING},
+        {"remove empty", IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY}};
+    CGameDatabase db;
+    std::istringstream target(kReportTarget);
+    db.ReadFrom(target);
+    COobDocument doc;
+    doc.m_pDatabase = &db;
+    CTreeStore tree;
+    CLineStore lines;
+    for (const char* line : kImportTree) {
+        lines.AddString(line);
+    }
+    doc.PasteFromList(tree, TVI_ROOT, TVI_LAST, lines);
+    CTempFolder folder;
+    WriteBytes(folder / "game.btl", text);
+    EXPECT_EQ(doc.GetData(folder / "game.btl", tree, flags.at(option)), RESULT_DONE);
+    std::string out = Shape(tree);
+    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
+        const COobItem* item = ItemOf(tree, walk.Current());
+        if (item->m_nType == TYPE_UNIT || item->m_nType == TYPE_SUPPLY) {
+            const int strength = item->m_nType == TYPE_UNIT
+                                     ? static_cast<const CUnitItem*>(item)->m_nStrength
+                                     : static_cast<const CSupplyItem*>(item)->m_nSupply;
+            out += " " + std::string(item->m_strName) + "=" + std::to_string(strength);
+        }
+    }
+    return {out, ""};
+}
+
+const std::map<std::string, CReader> kReaders = {
+    {"oob", {ReadOob, true}},
+    {"template", {InsertTemplate, false}},
+    {"target", {ReadTarget, true}},
+    {"workspace", {ReadWorkspace, false}},
+    {"import", {Import, false}},
+};
+
+void CheckRow(const CReader& reader, const CCase& c) {
+    const COutcome got = reader.read(c.input, c.option);
+    EXPECT_EQ(got.result, c.result);
+    EXPECT_NE(got.written.find(c.written), std::string::npos) << got.written.substr(0, 600);
+    if (reader.readsBack) {
+        const COutcome again = reader.read(got.written, c.option);
+        EXPECT_EQ(again.result, got.result);
+        EXPECT_EQ(again.written, got.written);
+    }
+}
+
+// The input cut after every byte gives the result of the whole lines before the cut; a cut
+// inside a line gives that of the line ended there, or, for a reader that drops an unended
+// line, that of the whole lines before it.
+void CheckCuts(const CReader& reader, const CCase& c) {
+    ASSERT_EQ(c.afterLines.size(),
+              static_cast<std::size_t>(std::count(c.input.begin(), c.input.end(), '\n')) + 1);
+    for (std::size_t n = 0; n <= c.input.size(); ++n) {
+        SCOPED_TRACE(n);
+        const std::string cut = c.input.substr(0, n);
+        const COutcome got = reader.read(cut, c.option);
+        if (n == 0 || cut.back() == '\n' || !c.partialLineRead) {
+            EXPECT_EQ(got.result, c.afterLines[std::count(cut.begin(), cut.end(), '\n')]);
+        } else {
+            const COutcome ended = reader.read(cut + "\n", c.option);
+            EXPECT_EQ(got.result, ended.result);
+            EXPECT_EQ(got.written, ended.written);
+        }
+    }
+}
+
+TEST(HostileInputs, EveryCaseReadsAsDecided) {
+    std::map<std::string, int> cases;
+    for (const auto& folder : std::filesystem::directory_iterator(kHostile)) {
+        if (!folder.is_directory()) {
+            continue;
+        }
+        const std::string name = folder.path().filename().string();
+        ASSERT_EQ(kReaders.count(name), 1u) << "no reader for " << folder.path();
+        for (const auto& file : std::filesystem::directory_iterator(folder.path())) {
+            SCOPED_TRACE(file.path().string());
+            const CCase c = ReadCase(file.path().string());
+            if (c.afterLines.empty()) {
+                CheckRow(kReaders.at(name), c);
+            } else {
+                CheckCuts(kReaders.at(name), c);
+            }
+            ++cases[name];
+        }
+    }
+    EXPECT_EQ(cases.size(), kReaders.size());
+}
+
+// A path that names no file, or a folder, is refused and what was read before stays: a folder
+// read as an empty game file would remove every unit.
+TEST(HostileInputs, PathsThatAreNoFileAreRefused) {
+    CTempFolder folder;
+    COobDocument doc;
+    CTreeStore tree;
+    tree.InsertItem("kept", TVI_ROOT, TVI_LAST);
+    CWorkspace w;
+    w.m_strTitle = "kept";
+    for (const std::string& path : {folder / "missing", folder.Path()}) {
+        SCOPED_TRACE(path);
+        EXPECT_EQ(doc.LoadTree(path, tree), RESULT_CANNOT_OPEN);
+        EXPECT_EQ(doc.InsertTemplate(path, tree, TVI_ROOT, TVI_LAST, 0), RESULT_CANNOT_OPEN);
+        EXPECT_EQ(doc.GetData(path, tree, IMPORT_REMOVE_MISSING), RESULT_CANNOT_OPEN);
+        EXPECT_EQ(w.Load(path), RESULT_CANNOT_OPEN);
+    }
+    EXPECT_EQ(Shape(tree), "kept");
+    EXPECT_EQ(w.m_strTitle, "kept");
+}
+
+}  // namespace
