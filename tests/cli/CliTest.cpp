@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "RunCli.h"
-#include "core/SmallGameData.h"
-#include "core/TempFolder.h"
+#include "SmallGameData.h"
+#include "TempFolder.h"
 
 namespace {
 

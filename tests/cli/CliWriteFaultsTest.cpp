@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "FailingFileOps.h"
 #include "RunCli.h"
-#include "core/FailingFileOps.h"
-#include "core/TempFolder.h"
+#include "TempFolder.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "core/TempFolder.h"
+#include "TempFolder.h"
 
 class CUiFolder : public CTempFolder {
 public:

@@ -5,8 +5,8 @@
 
 #include <algorithm>
 
+#include "FailingFileOps.h"
 #include "MainWindowFixture.h"
-#include "core/FailingFileOps.h"
 
 namespace {
 
