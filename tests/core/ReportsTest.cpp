@@ -13,7 +13,8 @@ using Reports = CReportTree;
 
 TEST_F(Reports, KeysCountSiblingsPerLevel) {
     Build({"A North", "Begin", "C First", "Begin", "U 8 2 Fus Musket 0 0 One",
-           "U 8 2 Fus Musket 0 0 Two", "End", "C Second", "Begin", "End", "End", "A South"});
+           "U 8 2 Fus Musket 0 0 Two", "End", "C Second", "Begin", "U 8 2 Fus Musket 0 0 Three",
+           "End", "End", "A South"});
     const std::vector<std::string> lines = Lines(ReportText(m_tree, ReportKind::kKey));
     const std::vector<std::string> expected = {
         "Key Report created by Harnwick",
@@ -26,6 +27,7 @@ TEST_F(Reports, KeysCountSiblingsPerLevel) {
         "1.1.1.          : Infantry    :         One",
         "1.1.2.          : Infantry    :         Two",
         "1.2.            : Corps       :     Second",
+        "1.2.1.          : Infantry    :         Three",
         "",
         std::string(37, '*'),
         " Key            : Type        :  Name",
