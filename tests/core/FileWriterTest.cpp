@@ -140,21 +140,41 @@ struct FailCase {
     Start start;
     bool append;
     bool noExchange;
+    // The operations the write must make, a run of writes as one: the faults are made from the
+    // operations a run asks for, so one it drops would never be failed.
+    const char* ops;
 };
+
+// The operations asked for, joined by blanks, with a run of writes named once.
+std::string Sequence(const std::vector<std::string>& ops) {
+    std::string out;
+    for (std::size_t i = 0; i < ops.size(); ++i) {
+        if (i == 0 || ops[i] != "write" || ops[i - 1] != "write") {
+            out += (out.empty() ? "" : ", ") + ops[i];
+        }
+    }
+    return out;
+}
 
 // Whichever operation fails, alone or with all after it, the write reports it naming the file,
 // leaves the file as it was (its old bytes with their mode, or no file behind the name) and no
 // temporary file. On a file system that cannot exchange names a failed folder sync comes after
 // the old file is gone: it is reported, and the new bytes stay.
 TEST(FileWriter, FailingAnyOperationLeavesTheFileAsItWas) {
+    const char* const replace =
+        "open, write, fchmod, fsync, close, open folder, rename, sync folder, close";
+    const char* const create = "open, write, fsync, close, open folder, rename, sync folder, close";
+    const char* const append = "open, write, fsync, close";
     const std::vector<FailCase> cases = {
-        {"replace", kExisting, false, false},
-        {"create", kMissing, false, false},
-        {"create behind a link", kDanglingLink, false, false},
-        {"replace without exchange", kExisting, false, true},
-        {"append", kExisting, true, false},
-        {"append to a new file", kMissing, true, false},
-        {"append behind a link", kDanglingLink, true, false},
+        {"replace", kExisting, false, false, replace},
+        {"create", kMissing, false, false, create},
+        {"create behind a link", kDanglingLink, false, false, create},
+        // The exchange is refused, and a plain rename takes its place.
+        {"replace without exchange", kExisting, false, true,
+         "open, write, fchmod, fsync, close, open folder, rename, rename, sync folder, close"},
+        {"append", kExisting, true, false, append},
+        {"append to a new file", kMissing, true, false, append},
+        {"append behind a link", kDanglingLink, true, false, append},
     };
     const std::string old = "old contents\r\n</F>";
     const std::string bytes = "new contents, long enough for several writes\r\n</F>";
@@ -172,6 +192,7 @@ TEST(FileWriter, FailingAnyOperationLeavesTheFileAsItWas) {
         dry.m_bNoExchange = c.noExchange;
         ASSERT_EQ(WithOps(dry, write), RESULT_DONE);
         EXPECT_EQ(ReadBytes(path), c.append && c.start == kExisting ? old + bytes : bytes);
+        EXPECT_EQ(Sequence(dry.m_ops), c.ops);
         std::size_t renamed = 0;  // the number of the rename that takes the old file away
         for (std::size_t i = 0; i < dry.m_ops.size(); ++i) {
             renamed = dry.m_ops[i] == "rename" ? i + 1 : renamed;
