@@ -81,19 +81,6 @@ TEST_F(Cli, SaveWritesTheTargetWithTheRecordsAddedWhileReading) {
     EXPECT_EQ(check.out, "0 problems found\n");
 }
 
-TEST_F(Cli, UnknownClassDecidesTheBaseTypeOfANewUnitType) {
-    // 12 strength points at quality 5 under each class's base type of the small target file.
-    const char* expected[] = {"156\t60", "201.6\t48", "1152\t240"};
-    const std::string oob = File("j.oob", "3\r\nU 12 5 Jaeger Rifle 3 7 Light Company\r\n");
-    for (int unitClass = 1; unitClass <= 3; ++unitClass) {
-        const CliRun run =
-            RunCli({"tree", m_strSmallTarget, oob, "--unknown-class", std::to_string(unitClass)});
-        EXPECT_EQ(run.status, EXIT_DONE);
-        EXPECT_EQ(run.out,
-                  std::string("1.\t0\tUnit\tLight Company\t") + expected[unitClass - 1] + "\n");
-    }
-}
-
 TEST_F(Cli, CheckListsEveryProblemAndExitsWithFour) {
     const std::string unit = "U 12 5 Jaeger Rifle 3 7 Light Company";
     const std::string oob = File("bad.oob", "3\nA Army of Norland\n\tBegin\n\t" + unit +

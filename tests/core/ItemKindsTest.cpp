@@ -178,13 +178,14 @@ TEST_F(ItemKinds, UnknownUnitTypeIsWarnedAskedForAndAddedOnce) {
     EXPECT_EQ(m_db.m_Types.Count(), types + 1);
 }
 
-// An answer outside the unit classes, or no one to ask, means infantry.
+// The answer is the new type's class; one outside the unit classes, or no one to ask, means
+// infantry.
 TEST_F(ItemKinds, UnitClassAnswerOutsideTheUnitClassesMeansInfantry) {
-    for (int answer : {0, 4, -1}) {
+    for (const auto& [answer, unitClass] : {std::pair{3, 3}, {0, 1}, {4, 1}, {-1, 1}}) {
         m_prompts.m_nAnswer = answer;
         const auto unit = Read("U 1 1 New" + std::to_string(answer + 1) + " Musket 0 0 Someone");
         ASSERT_NE(unit->m_pType, nullptr);
-        EXPECT_EQ(unit->m_pType->ClassCode(), 1) << answer;
+        EXPECT_EQ(unit->m_pType->ClassCode(), unitClass) << answer;
     }
     m_db.m_pPrompts = nullptr;
     const auto unit = Read("U 1 1 Quiet Rifle 0 0 Quiet");

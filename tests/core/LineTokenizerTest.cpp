@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace {
 
 CLineTokenizer Tokenize(char delimiter, const std::string& line) {
@@ -100,29 +98,6 @@ TEST(LineTokenizer, ReadsFieldsAfterSeekAndStopsOnTheDelimiter) {
     EXPECT_EQ(bars.ReadRest(), "|x y");
     bars.SetPosition(50);
     EXPECT_EQ(bars.ReadRest(), "");
-}
-
-TEST(LineTokenizer, ReadsNumbersAsTheGameWritesThem) {
-    const std::pair<const char*, double> cases[] = {
-        {"-7", -7}, {"12abc", 12}, {"1.5.3", 1.53}, {"abc", 0}, {"4-2", 42}, {"", 0}, {"3.", 3},
-    };
-    for (const auto& [field, value] : cases) {
-        CLineTokenizer t = Tokenize(' ', field);
-        EXPECT_DOUBLE_EQ(t.ReadNumber(), value) << field;
-        EXPECT_EQ(t.Position(), t.GetLine().size()) << field;
-    }
-    const double zero = Tokenize(' ', "-").ReadNumber();
-    EXPECT_TRUE(zero == 0.0 && std::signbit(zero));
-    EXPECT_EQ(StoreTruncated<int>(zero), 0);
-}
-
-TEST(LineTokenizer, TruncationKeepsTheLowBitsOfAnyValue) {
-    EXPECT_EQ(StoreTruncated<std::int16_t>(-2.5), -2);
-    EXPECT_EQ(StoreTruncated<std::uint8_t>(300.0), 44);
-    EXPECT_EQ(StoreTruncated<std::int16_t>(65537.0), 1);
-    EXPECT_EQ(StoreTruncated<std::int32_t>(-2147483649.0), 2147483647);
-    EXPECT_EQ(StoreTruncated<std::int32_t>(INFINITY), 0);
-    EXPECT_EQ(StoreTruncated<std::int32_t>(NAN), 0);
 }
 
 }  // namespace
