@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <functional>
+#include <iomanip>
 #include <map>
 #include <random>
 #include <sstream>
@@ -44,81 +45,64 @@ std::string Noise(std::size_t size, const std::string& banned, unsigned seed) {
     return bytes;
 }
 
-// The pieces of a case line: "text" with \r \n \t \\ \" \xHH escapes, repeat N PIECE,
-// noise N "banned" SEED and ( PIECE ... ), all run together.
-class CPieces {
-public:
-    explicit CPieces(const std::string& text) : m_text(text) {}
+// "text" with its escapes \r \n \t \\ and \xHH taken.
+std::string Unescape(const std::string& text) {
+    std::string out;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = i + 1 < text.size() && text[i] == '\\' ? text[++i] : '\0';
+        if (c == 'x') {
+            out += static_cast<char>(std::stoi(text.substr(i + 1, 2), nullptr, 16));
+            i += 2;
+        } else {
+            out += c == '\0' ? text[i] : c == 'r' ? '\r' : c == 'n' ? '\n' : c == 't' ? '\t' : c;
+        }
+    }
+    return out;
+}
 
-    std::string All() {
+std::string Piece(std::istream& in);
+
+// The pieces up to the end of the line or a ")", run together.
+std::string Pieces(std::istream& in) {
+    std::string out;
+    while ((in >> std::ws).peek() != EOF && in.peek() != ')') {
+        out += Piece(in);
+    }
+    in.ignore();
+    return out;
+}
+
+// One piece: "text", repeat N PIECE, noise N "banned" SEED or ( PIECE ... ).
+std::string Piece(std::istream& in) {
+    std::string word;
+    if (in.peek() == '"') {
+        in >> std::quoted(word, '"', '\x01');
+        return Unescape(word);
+    }
+    if (in.get() == '(') {
+        return Pieces(in);
+    }
+    in.unget();
+    std::size_t n = 0;
+    in >> word >> n >> std::ws;
+    if (word == "repeat") {
+        const std::string piece = Piece(in);
         std::string out;
-        while (Skip() < m_text.size() && m_text[m_at] != ')') {
-            out += One();
+        for (std::size_t i = 0; i < n; ++i) {
+            out += piece;
         }
         return out;
     }
+    std::string banned;
+    unsigned seed = 0;
+    EXPECT_TRUE(word == "noise" && in >> std::quoted(banned, '"', '\x01') >> seed) << word;
+    return Noise(n, Unescape(banned), seed);
+}
 
-private:
-    std::size_t Skip() {
-        while (m_at < m_text.size() && m_text[m_at] == ' ') {
-            ++m_at;
-        }
-        return m_at;
-    }
-    std::string Word() {
-        Skip();
-        const std::size_t start = m_at;
-        m_at = std::min(m_text.find(' ', m_at), m_text.size());
-        return m_text.substr(start, m_at - start);
-    }
-    std::string One() {
-        if (m_text[m_at] == '"') {
-            return Quoted();
-        }
-        if (m_text[m_at] == '(') {
-            ++m_at;
-            std::string group = All();
-            EXPECT_EQ(m_text[std::min(Skip(), m_text.size() - 1)], ')') << m_text;
-            ++m_at;
-            return group;
-        }
-        const std::string word = Word();
-        const std::size_t n = std::stoul(Word());
-        Skip();
-        if (word == "repeat") {
-            const std::string piece = One();
-            std::string out;
-            for (std::size_t i = 0; i < n; ++i) {
-                out += piece;
-            }
-            return out;
-        }
-        EXPECT_EQ(word, "noise") << m_text;
-        const std::string banned = Quoted();
-        return Noise(n, banned, static_cast<unsigned>(std::stoul(Word())));
-    }
-    std::string Quoted() {
-        std::string out;
-        for (++m_at; m_at < m_text.size() && m_text[m_at] != '"'; ++m_at) {
-            if (m_text[m_at] != '\\') {
-                out += m_text[m_at];
-                continue;
-            }
-            const char c = m_text[++m_at];
-            if (c == 'x') {
-                out += static_cast<char>(std::stoi(m_text.substr(m_at + 1, 2), nullptr, 16));
-                m_at += 2;
-            } else {
-                out += c == 'r' ? '\r' : c == 'n' ? '\n' : c == 't' ? '\t' : c;
-            }
-        }
-        ++m_at;
-        return out;
-    }
-
-    const std::string& m_text;
-    std::size_t m_at = 0;
-};
+std::string PiecesOf(const std::string& text) {
+    std::istringstream in(text);
+    return Pieces(in);
+}
 
 struct CCase {
     std::string input, option, result, written;
@@ -134,15 +118,15 @@ CCase ReadCase(const std::string& path) {
         const std::string key = line.substr(0, blank);
         const std::string rest = blank == std::string::npos ? "" : line.substr(blank + 1);
         if (key == "input") {
-            c.input += CPieces(rest).All();
+            c.input += PiecesOf(rest);
         } else if (key == "result") {
-            c.result += CPieces(rest).All();
+            c.result += PiecesOf(rest);
         } else if (key == "written") {
-            c.written += CPieces(rest).All();
+            c.written += PiecesOf(rest);
         } else if (key == "option") {
             c.option = rest;
         } else if (key == "after-lines") {
-            c.afterLines.push_back(CPieces(rest).All());
+            c.afterLines.push_back(PiecesOf(rest));
         } else if (key == "partial-line") {
             c.partialLineRead = rest == "read";
         } else {
@@ -215,10 +199,22 @@ COutcome ReadWorkspace(const std::string& text, const std::string&) {
 
 // 1 North: 1.1 Chief, 1.2 First (1.2.1 Line 8, 1.2.2 Guns 6, 1.2.3 Wagons 9);
 // 2 South: 2.1 Staff (2.1.1 Aide, 2.1.2 Foot 5).
-const char* const kImportTree[] = {
-    "A North", "Begin",   "L 4 3 0 Chief", "C First", "Begin", "U 8 2 Fus Musket 0 0 Line",
-    "U 6 2 Gun Cannon 0 0 Guns", "S 9 0 Wagons", "End", "End", "A South", "Begin", "C Staff",
-    "Begin",   "L 4 3 0 Aide", "U 5 2 Fus Musket 0 0 Foot"};
+const char* const kImportTree[] = {"A North",
+                                   "Begin",
+                                   "L 4 3 0 Chief",
+                                   "C First",
+                                   "Begin",
+                                   "U 8 2 Fus Musket 0 0 Line",
+                                   "U 6 2 Gun Cannon 0 0 Guns",
+                                   "S 9 0 Wagons",
+                                   "End",
+                                   "End",
+                                   "A South",
+                                   "Begin",
+                                   "C Staff",
+                                   "Begin",
+                                   "L 4 3 0 Aide",
+                                   "U 5 2 Fus Musket 0 0 Foot"};
 
 // Imports the input as a game file into the tree above, the option naming what happens to the
 // entries it misses; the tree and the strength or supply of every unit and supply left.
@@ -256,10 +252,8 @@ COutcome Import(const std::string& text, const std::string& option) {
 }
 
 const std::map<std::string, CReader> kReaders = {
-    {"oob", {ReadOob, true}},
-    {"template", {InsertTemplate, false}},
-    {"target", {ReadTarget, true}},
-    {"workspace", {ReadWorkspace, false}},
+    {"oob", {ReadOob, true}},       {"template", {InsertTemplate, false}},
+    {"target", {ReadTarget, true}}, {"workspace", {ReadWorkspace, false}},
     {"import", {Import, false}},
 };
 
