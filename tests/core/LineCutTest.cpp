@@ -33,15 +33,4 @@ TEST(LineCut, OverLongLinesAreCutAsTheReadersCutThem) {
     }
 }
 
-TEST(LineCut, OnlyTheLineFromItsStartIsMeasured) {
-    std::string out = std::string(300, 'p') + "\r\n";
-    const std::size_t lineStart = out.size();
-    out += std::string(254, 'x');
-    CutOverLongLine(out, lineStart, ' ');
-    EXPECT_EQ(out.size(), lineStart + 254);
-    out += std::string(10, 'x');
-    CutOverLongLine(out, lineStart, ' ');
-    EXPECT_EQ(out, std::string(300, 'p') + "\r\n" + std::string(254, 'x'));
-}
-
 }  // namespace
