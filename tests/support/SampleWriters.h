@@ -29,48 +29,27 @@ struct CSampleFiles {
 
 struct CSampleWriter {
     const char* name;
+    bool kept;  // a file the editor keeps, not one it makes once
     std::function<CWriteResult(CSampleFiles&, const std::string& path)> write;
 };
 
-// The writers of the three files the editor keeps: order of battle, workspace, target file.
-inline std::vector<CSampleWriter> KeptFileWriters() {
-    return {
-        {"order of battle",
-         [](CSampleFiles& s, const std::string& path) { return s.document.Save(path, s.tree); }},
-        {"workspace",
-         [](CSampleFiles& s, const std::string& path) { return s.workspace.Save(path); }},
-        {"target file",
-         [](CSampleFiles& s, const std::string& path) { return s.database.Save(path); }},
-    };
-}
-
 inline std::vector<CSampleWriter> AllWriters() {
-    std::vector<CSampleWriter> writers = KeptFileWriters();
-    writers.insert(writers.end(), {
-                                      {"new order of battle",
-                                       [](CSampleFiles& s, const std::string& path) {
-                                           return s.document.m_writer.CreateDefault(path);
-                                       }},
-                                      {"HTML report",
-                                       [](CSampleFiles& s, const std::string& path) {
-                                           return WriteReport(s.document.m_writer.Buffer(), path,
-                                                              s.tree, ReportKind::kHtml, 0);
-                                       }},
-                                      {"cost report",
-                                       [](CSampleFiles& s, const std::string& path) {
-                                           return WriteReport(s.document.m_writer.Buffer(), path,
-                                                              s.tree, ReportKind::kCost);
-                                       }},
-                                      {"leader report",
-                                       [](CSampleFiles& s, const std::string& path) {
-                                           return WriteReport(s.document.m_writer.Buffer(), path,
-                                                              s.tree, ReportKind::kLeader);
-                                       }},
-                                      {"key report",
-                                       [](CSampleFiles& s, const std::string& path) {
-                                           return WriteReport(s.document.m_writer.Buffer(), path,
-                                                              s.tree, ReportKind::kKey);
-                                       }},
-                                  });
-    return writers;
+    using S = CSampleFiles;
+    using P = const std::string&;
+    const auto report = [](ReportKind kind, int flags = 0) {
+        return [kind, flags](S& s, P path) {
+            return WriteReport(s.document.m_writer.Buffer(), path, s.tree, kind, flags);
+        };
+    };
+    return {
+        {"order of battle", true, [](S& s, P path) { return s.document.Save(path, s.tree); }},
+        {"workspace", true, [](S& s, P path) { return s.workspace.Save(path); }},
+        {"target file", true, [](S& s, P path) { return s.database.Save(path); }},
+        {"new order of battle", false,
+         [](S& s, P path) { return s.document.m_writer.CreateDefault(path); }},
+        {"HTML report", false, report(ReportKind::kHtml)},
+        {"cost report", false, report(ReportKind::kCost)},
+        {"leader report", false, report(ReportKind::kLeader)},
+        {"key report", false, report(ReportKind::kKey)},
+    };
 }
