@@ -18,7 +18,6 @@
 #include "TempFolder.h"
 #include "TestTrees.h"
 #include "WorkspaceFields.h"
-#include "base/LineStore.h"
 #include "base/Result.h"
 #include "base/TextLines.h"
 #include "base/TreeWalk.h"
@@ -197,26 +196,7 @@ COutcome ReadWorkspace(const std::string& text, const std::string&) {
     return {Fields(w), ""};
 }
 
-// 1 North: 1.1 Chief, 1.2 First (1.2.1 Line 8, 1.2.2 Guns 6, 1.2.3 Wagons 9);
-// 2 South: 2.1 Staff (2.1.1 Aide, 2.1.2 Foot 5).
-const char* const kImportTree[] = {"A North",
-                                   "Begin",
-                                   "L 4 3 0 Chief",
-                                   "C First",
-                                   "Begin",
-                                   "U 8 2 Fus Musket 0 0 Line",
-                                   "U 6 2 Gun Cannon 0 0 Guns",
-                                   "S 9 0 Wagons",
-                                   "End",
-                                   "End",
-                                   "A South",
-                                   "Begin",
-                                   "C Staff",
-                                   "Begin",
-                                   "L 4 3 0 Aide",
-                                   "U 5 2 Fus Musket 0 0 Foot"};
-
-// Imports the input as a game file into the tree above, the option naming what happens to the
+// Imports the input as a game file into the tree below, the option naming what happens to the
 // entries it misses; the tree and the strength or supply of every unit and supply left.
 COutcome Import(const std::string& text, const std::string& option) {
     const std::map<std::string, int> flags = {
@@ -224,20 +204,18 @@ COutcome Import(const std::string& text, const std::string& option) {
         {"zero", IMPORT_ZERO_MISSING},
         {"remove", IMPORT_REMOVE_MISSING},
         {"remove empty", IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY}};
-    CGameDatabase db;
-    std::istringstream target(kReportTarget);
-    db.ReadFrom(target);
-    COobDocument doc;
-    doc.m_pDatabase = &db;
-    CTreeStore tree;
-    CLineStore lines;
-    for (const char* line : kImportTree) {
-        lines.AddString(line);
-    }
-    doc.PasteFromList(tree, TVI_ROOT, TVI_LAST, lines);
+    // 1 North: 1.1 Chief, 1.2 First (1.2.1 Line 8, 1.2.2 Guns 6, 1.2.3 Wagons 9);
+    // 2 South: 2.1 Staff (2.1.1 Aide, 2.1.2 Foot 5).
+    CReportWorld world;
+    world.Build({"A North", "Begin", "L 4 3 0 Chief", "C First", "Begin",
+                 "U 8 2 Fus Musket 0 0 Line", "U 6 2 Gun Cannon 0 0 Guns", "S 9 0 Wagons", "End",
+                 "End", "A South", "Begin", "C Staff", "Begin", "L 4 3 0 Aide",
+                 "U 5 2 Fus Musket 0 0 Foot"});
     CTempFolder folder;
     WriteBytes(folder / "game.btl", text);
-    EXPECT_EQ(doc.GetData(folder / "game.btl", tree, flags.at(option)), RESULT_DONE);
+    EXPECT_EQ(world.m_doc.GetData(folder / "game.btl", world.m_tree, flags.at(option)),
+              RESULT_DONE);
+    const CTreeStore& tree = world.m_tree;
     std::string out = Shape(tree);
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
         const COobItem* item = ItemOf(tree, walk.Current());

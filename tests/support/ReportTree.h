@@ -34,9 +34,9 @@ inline const char* const kReportTarget =
     "\t5|S |0|Supply type|\n\t\t</W>\n\t5|DEP |0|Depot type|\n\t\t</W>\n"
     "\t3|GB |0|Gunboat type|\n\t\tCannon|0.5|Cannon|\n\t\t</W>\n</D>\n</E>\n\tnone|\n</F>";
 
-class CReportTree : public ::testing::Test {
-protected:
-    void SetUp() override {
+// The small database, a document on it and a tree built from order-of-battle lines.
+struct CReportWorld {
+    CReportWorld() {
         std::istringstream in(kReportTarget);
         m_db.ReadFrom(in);
     }
@@ -58,6 +58,8 @@ protected:
     COobDocument m_doc{&m_db};
     CTreeStore m_tree;
 };
+
+class CReportTree : public ::testing::Test, public CReportWorld {};
 
 // The lines of a report, without their CR LF.
 inline std::vector<std::string> Lines(const std::string& text) {
