@@ -106,16 +106,14 @@ struct KindCase {
 const KindCase kKindCases[] = {
     {"U 10 -3 Foot Musket 1 2 Old Guard", 0, TYPE_UNIT, "10 -3 Foot Musket 1 0 2|Old Guard", 210,
      50, nullptr},
-    {"U 10 3 Foot Musket 1 2 Line Foot", 0, TYPE_UNIT, "10 3 Foot Musket 1 0 2|Line Foot", 160, 50,
-     nullptr},
     {"U 10 3 Foot Musket 1 7 2 Line Foot", 1, TYPE_UNIT, "10 3 Foot Musket 1 7 2|Line Foot", 160,
      50, nullptr},
     {"U 5 4 Dragoons Sabre 0 0 Hussars", 0, TYPE_UNIT, "5 4 Dragoons Sabre 0 0 0|Hussars", 72, 20,
      nullptr},
     {"U 2 1 FieldGun Gun6 3 0 4 Battery", 1, TYPE_UNIT, "2 1 FieldGun Gun6 3 0 4|Battery", 176, 40,
      nullptr},
-    {"U 10 3 Foot Musket 1 2 100% Guards", 0, TYPE_UNIT, "10 3 Foot Musket 1 0 2|100% Guards", 160,
-     50, nullptr},
+    {"U 10 3 Foot Musket 1 2 100% Line Foot", 0, TYPE_UNIT, "10 3 Foot Musket 1 0 2|100% Line Foot",
+     160, 50, nullptr},
     // The line is normalised first; numbers are truncated toward zero into the field's width.
     {"\tU  70000\t-3.9 Foot  Musket 1 2 Old   Guard ", 0, TYPE_UNIT,
      "4464 -3 Foot Musket 1 0 2|Old Guard", 4464 * 5 * 2 * 2.1, 4464 * 5,
