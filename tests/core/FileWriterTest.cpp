@@ -140,24 +140,12 @@ struct FailCase {
     const char* ops;
 };
 
-// The operations asked for, joined by blanks, with a run of writes named once.
-std::string Sequence(const std::vector<std::string>& ops) {
-    std::string out;
-    for (std::size_t i = 0; i < ops.size(); ++i) {
-        if (i == 0 || ops[i] != "write" || ops[i - 1] != "write") {
-            out += (out.empty() ? "" : ", ") + ops[i];
-        }
-    }
-    return out;
-}
-
 // Whichever operation fails, alone or with all after it, the write reports it naming the file,
 // leaves the file as it was (its old bytes with their mode, or no file behind the name) and no
 // temporary file. On a file system that cannot exchange names a failed folder sync comes after
 // the old file is gone: it is reported, and the new bytes stay.
 TEST(FileWriter, FailingAnyOperationLeavesTheFileAsItWas) {
-    const char* const replace =
-        "open, write, fchmod, fsync, close, open folder, rename, sync folder, close";
+    const char* const replace = kReplaceOps;
     const char* const create = "open, write, fsync, close, open folder, rename, sync folder, close";
     const char* const append = "open, write, fsync, close";
     const std::vector<FailCase> cases = {

@@ -23,6 +23,7 @@ TEST(WriterFaults, AnyFailingOperationLeavesTheOldFile) {
         CFailingOps dry;
         ASSERT_EQ(WithOps(dry, write), RESULT_DONE);
         ASSERT_NE(ReadBytes(path), old);
+        EXPECT_EQ(Sequence(dry.m_ops), kReplaceOps);
         RecordProperty(writer.name, static_cast<int>(dry.m_ops.size()));
         for (const CFault& fault : FaultsOf(dry.m_ops.size())) {
             SCOPED_TRACE(fault.Name(dry.m_ops));

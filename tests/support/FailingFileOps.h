@@ -34,6 +34,23 @@ inline std::vector<CFault> FaultsOf(std::size_t n) {
     return faults;
 }
 
+// The operations asked for, joined by ", ", a run of writes named once.
+inline std::string Sequence(const std::vector<std::string>& ops) {
+    std::string out;
+    for (std::size_t i = 0; i < ops.size(); ++i) {
+        if (i == 0 || ops[i] != "write" || ops[i - 1] != "write") {
+            out += (out.empty() ? "" : ", ") + ops[i];
+        }
+    }
+    return out;
+}
+
+// What replacing a file asks for. The faults are made from the operations a run asks for, so
+// one the writer drops, or a writer that goes past these operations, is never failed: a dry
+// run is checked against this first.
+inline const char* const kReplaceOps =
+    "open, write, fchmod, fsync, close, open folder, rename, sync folder, close";
+
 class CFailingOps : public CFileOps {
 public:
     explicit CFailingOps(CFault fault = {}, std::size_t chunk = 4096)
