@@ -14,16 +14,7 @@
 namespace {
 
 // A small target file exactly as the writer lays it out.
-const std::string kGolden =
-    "\tNorthern Marches|\r\n\t0|2|1|3|2|0|\r\n\t48|64|32|40|16|16|16|18|20|16|\r\n"
-    "\t7|2|1|0|2|0.5|-3|9|2|\r\n\tNorland|Sudmark|\r\n</A>\r\n"
-    "\t7|9|Army |Army|\r\n\t0|1|U |Unit|\r\n\t4|2|L |Leader|\r\n</B>\r\n"
-    "\t1|4|0.25|2|100|40|Line foot|\r\n\t2|3|0.5|3.5|50|20|Horse|\r\n</C>\r\n"
-    "\t1|Fusilier|0.1|Fusilier type|\r\n\t\tMusket|0.05|Smooth musket|\r\n"
-    "\t\tRifle|0.2|Rifled musket|\r\n\t\t</W>\r\n\t4|Command|0|Command|\r\n\t\t</W>\r\n</D>\r\n"
-    "\tnorth.oob|North|\r\n</E>\r\n"
-    "\ttemplates.tpl|\r\n\t6|3|1|1500|Brigade|\r\n\t0|1|0|250.5|Battery|\r\n\t4|2|1|80|Colonel|\r\n"
-    "</F>";
+const std::string kGolden = ReadBytes(HW_TEST_DATA "/golden.inf");
 
 std::unique_ptr<CGameDatabase> Parse(const std::string& text) {
     auto db = std::make_unique<CGameDatabase>();

@@ -18,29 +18,8 @@
 namespace {
 
 // An army with a childless brigade and a brigade that is its last child, a depot, and a last
-// top-level brigade whose blocks the file leaves open.
-const char* const kGolden =
-    "3\n"
-    "A Army of Norland\n"
-    "\tBegin\n"
-    "\tL 4 7 0 Marshal Orm\n"
-    "\tB Empty Brigade\n"
-    "\t\tBegin\n"
-    "\t\tEnd\n"
-    "\tB Iron Brigade\n"
-    "\t\tBegin\n"
-    "\t\tL 1 5 0 Colonel Ash\n"
-    "\t\tU 10 3 Foot Musket 1 2 1st Foot\n"
-    "\t\tEnd\n"
-    "\tEnd\n"
-    "DEP 6 4 Depot\n"
-    "B Last Brigade\n"
-    "\tBegin\n"
-    "\tL 1 3 0 Major Fen\n"
-    "\tU 5 4 Dragoons Sabre 0 0 Hussars\n"
-    "\tB Inner Brigade\n"
-    "\t\tBegin\n"
-    "\t\tU 2 1 FieldGun Gun6 3 4 Battery\n";
+// top-level brigade whose blocks the file leaves open; its lines end in bare line feeds.
+const std::string kGolden = ReadBytes(HW_TEST_DATA "/golden.oob");
 
 const char* const kGoldenShape =
     "Army of Norland(Marshal Orm Empty Brigade Iron Brigade(Colonel Ash 1st Foot)) Depot "

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -17,27 +17,12 @@
 #include "model/OobItem.h"
 #include "model/Reports.h"
 
-// Infantry: 5 men a point, cost 2 a man, modifier 1.5 at quality 2 (15 a strength point).
+// The database of tests/data/report.inf, a document on it and a tree built from order-of-battle
+// lines. Infantry: 5 men a point, cost 2 a man, modifier 1.5 at quality 2 (15 a strength point).
 // Cavalry: 4 men, cost 3. Artillery: 2 men, cost 4. Leaders cost 10 at leadership 3.
-inline const char* const kReportTarget =
-    "\tReport Game|\n\t0|0|0|0|0|0|\n\t1|1|1|1|1|1|1|1|1|1|\n\t3|0|1|0|0|0.5|-9|9|1|\n\tNorth|\n"
-    "</A>\n"
-    "\t7|9|A |Army|\n\t6|8|C |Corps|\n\t4|1|L |Leader|\n\t0|1|U |Infantry|\n\t5|1|S |Supply|\n"
-    "\t8|2|DEP |Depot|\n\t9|1|GB |Gunboat|\n</B>\n"
-    "\t1|2|0.1|2|5|50|Line foot|\n\t2|2|0.1|3|4|40|Horse|\n\t3|2|0.1|4|2|12|Guns|\n"
-    "\t4|3|0.2|10|1|1|Staff|\n\t5|0|0|1|10|20|Train|\n\t6|0|0|1|1|1|Echelon|\n</C>\n"
-    "\t1|Fus|0.2|Fusilier|\n\t\tMusket|0.3|Musket|\n\t\t</W>\n"
-    "\t2|Hus|0|Hussar|\n\t\tSabre|0|Sabre|\n\t\t</W>\n"
-    "\t3|Gun|0|Gun|\n\t\tCannon|0|Cannon|\n\t\t</W>\n"
-    "\t4|4|0|Command four|\n\t\t</W>\n\t4|x|0|Odd command|\n\t\t</W>\n"
-    "\t6|A |0|Army type|\n\t\t</W>\n\t6|C |0|Corps type|\n\t\t</W>\n"
-    "\t5|S |0|Supply type|\n\t\t</W>\n\t5|DEP |0|Depot type|\n\t\t</W>\n"
-    "\t3|GB |0|Gunboat type|\n\t\tCannon|0.5|Cannon|\n\t\t</W>\n</D>\n</E>\n\tnone|\n</F>";
-
-// The small database, a document on it and a tree built from order-of-battle lines.
 struct CReportWorld {
     CReportWorld() {
-        std::istringstream in(kReportTarget);
+        std::ifstream in(HW_TEST_DATA "/report.inf", std::ios::binary);
         m_db.ReadFrom(in);
     }
 
