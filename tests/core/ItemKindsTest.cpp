@@ -2,9 +2,11 @@
 // the unit reader does about records the game data lacks, and the containers' totals.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
+#include "CaseFile.h"
 #include "SmallGameData.h"
 #include "base/TextLines.h"
 #include "gamedata/GameDatabase.h"
@@ -89,59 +91,23 @@ protected:
     CRecordingPrompts m_prompts;
 };
 
-struct KindCase {
-    const char* line;
-    int variant;
-    std::uint8_t type;
-    const char* fields;
-    double cost;
-    double men;
-    const char* written;  // none: the line itself
-};
-
-// Costs by hand: the unit at quality -3 is 10 × 5 × 2 × ((3 − 2) × 0.1 + 0.3 + 0.2 + 1 + 0.5);
-// the leader is ((7 − 3) × 0.1 + 0.5 + 1) × 1 × 500 whatever the sign of its leadership; the
-// supply is (0.25 + 1) × 10 × 20 × 2; the gunboat 8 × 20 × 4 × ((4 − 1) × 0.05 + 0.2 + 0.2 + 1
-// + 0.5); the containers (modifier + 1) × 1 × 250.
-const KindCase kKindCases[] = {
-    {"U 10 -3 Foot Musket 1 2 Old Guard", 0, TYPE_UNIT, "10 -3 Foot Musket 1 0 2|Old Guard", 210,
-     50, nullptr},
-    {"U 10 3 Foot Musket 1 7 2 Line Foot", 1, TYPE_UNIT, "10 3 Foot Musket 1 7 2|Line Foot", 160,
-     50, nullptr},
-    {"U 5 4 Dragoons Sabre 0 0 Hussars", 0, TYPE_UNIT, "5 4 Dragoons Sabre 0 0 0|Hussars", 72, 20,
-     nullptr},
-    {"U 2 1 FieldGun Gun6 3 0 4 Battery", 1, TYPE_UNIT, "2 1 FieldGun Gun6 3 0 4|Battery", 176, 40,
-     nullptr},
-    {"U 10 3 Foot Musket 1 2 100% Line Foot", 0, TYPE_UNIT, "10 3 Foot Musket 1 0 2|100% Line Foot",
-     160, 50, nullptr},
-    // The line is normalised first; numbers are truncated toward zero into the field's width.
-    {"\tU  70000\t-3.9 Foot  Musket 1 2 Old   Guard ", 0, TYPE_UNIT,
-     "4464 -3 Foot Musket 1 0 2|Old Guard", 4464 * 5 * 2 * 2.1, 4464 * 5,
-     "U 4464 -3 Foot Musket 1 2 Old Guard"},
-    {"L 4 7 0 Marshal Orm", 0, TYPE_LEADER, "4 7 0 0|Marshal Orm", 950, 1, nullptr},
-    {"L 4 -7 3 Marshal Orm", 0, TYPE_LEADER, "4 -7 3 0|Marshal Orm", 950, 1, nullptr},
-    {"S 20 12 Corps Train", 0, TYPE_SUPPLY, "S  20 12|Corps Train", 500, 200, nullptr},
-    {"DEP 6 4 Depot", 0, TYPE_DEPOT, "DEP  6 4|Depot", 60, 60, nullptr},
-    {"GB 8 -4 Gun12 2 Swift", 0, TYPE_GUNBOAT, "GB  8 -4 Gun12 2|Swift", 1312, 0, nullptr},
-    {"B Iron Brigade", 0, TYPE_STRUCTURE, "B |Iron Brigade", 250, 0, nullptr},
-    {"A Army of Norland", 0, TYPE_ARMY, "A |Army of Norland", 500, 0, nullptr},
-    // Records the game data lacks: cost 0, and the line is written back as it was read.
-    {"L 9 5 0 Nobody", 0, TYPE_LEADER, "- 5 0 0|Nobody", 0, 1, nullptr},
-    {"Q 5 1 Stores", 0, TYPE_SUPPLY, "- 5 1|Stores", 0, 0, nullptr},
-    {"GB 8 4 Cannon 2 Slow", 0, TYPE_GUNBOAT, "GB  8 4 - 2|Slow", 0, 0, nullptr},
-};
-
+// Each case of tests/data/items: a line read as an item of the kind its keyword names (under the
+// format variant of the option), its type code, fields, cost and men, and the line written back.
 TEST_F(ItemKinds, LinesReadIntoFieldsCostAndWriteBack) {
-    for (const KindCase& c : kKindCases) {
-        SCOPED_TRACE(c.line);
-        m_db.m_nFormatVariant = static_cast<std::uint8_t>(c.variant);
-        const auto item = Read(c.line);
-        EXPECT_EQ(item->m_nType, c.type);
-        EXPECT_EQ(Fields(*item), c.fields);
-        EXPECT_NEAR(item->Cost(), c.cost, 1e-9 * (c.cost + 1));
-        EXPECT_DOUBLE_EQ(item->Men(), c.men);
-        EXPECT_EQ(Text(*item), c.written ? c.written : c.line);
+    int cases = 0;
+    for (const auto& file : std::filesystem::directory_iterator(HW_TEST_DATA "/items")) {
+        SCOPED_TRACE(file.path().string());
+        const CCase c = ReadCase(file.path().string());
+        m_db.m_nFormatVariant =
+            static_cast<std::uint8_t>(c.option.empty() ? 0 : std::stoi(c.option));
+        const auto item = Read(c.input);
+        EXPECT_EQ(Format("type %d, fields ", item->m_nType) + Fields(*item) + ", cost " +
+                      FormatNumber(item->Cost()) + ", men " + FormatNumber(item->Men()),
+                  c.result);
+        EXPECT_EQ(Text(*item), c.written);
+        ++cases;
     }
+    EXPECT_GT(cases, 0);
     EXPECT_TRUE(m_prompts.m_warnings.empty());
     EXPECT_TRUE(m_prompts.m_questions.empty());
 }
