@@ -6,12 +6,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <functional>
-#include <iomanip>
 #include <map>
-#include <random>
 #include <sstream>
 #include <string>
-#include <vector>
 
 #include "CaseFile.h"
 #include "ReportTree.h"
