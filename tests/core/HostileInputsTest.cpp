@@ -20,6 +20,7 @@
 #include "base/TextLines.h"
 #include "base/TreeWalk.h"
 #include "gamedata/GameRecords.h"
+#include "model/GameImport.h"
 #include "model/OobDocument.h"
 #include "model/SupplyItem.h"
 #include "model/UnitItem.h"
@@ -45,11 +46,10 @@ COutcome ReadOob(const std::string& text, const std::string&) {
     WriteBytes(folder / "in.oob", text);
     CGameDatabase db;
     LoadSmallGameData(db);
-    COobDocument doc;
-    doc.m_pDatabase = &db;
+    COobDocument doc(&db);
     CTreeStore tree;
     EXPECT_EQ(doc.LoadTree(folder / "in.oob", tree), RESULT_DONE);
-    return {Shape(tree), doc.ToText(tree)};
+    return {Shape(tree), doc.m_writer.ToText(tree)};
 }
 
 // Inserts block number option of the input under an army P that holds one unit W.
@@ -59,14 +59,13 @@ COutcome InsertTemplate(const std::string& text, const std::string& option) {
     WriteBytes(folder / "in.tpl", text);
     CGameDatabase db;
     LoadSmallGameData(db);
-    COobDocument doc;
-    doc.m_pDatabase = &db;
+    COobDocument doc(&db);
     CTreeStore tree;
     EXPECT_EQ(doc.LoadTree(folder / "army.oob", tree), RESULT_DONE);
-    EXPECT_EQ(doc.InsertTemplate(folder / "in.tpl", tree, tree.GetRootItem(), TVI_LAST,
-                                 std::stoi(option)),
+    EXPECT_EQ(doc.m_reader.InsertTemplate(folder / "in.tpl", tree, tree.GetRootItem(), TVI_LAST,
+                                          std::stoi(option)),
               RESULT_DONE);
-    return {Shape(tree), doc.ToText(tree)};
+    return {Shape(tree), doc.m_writer.ToText(tree)};
 }
 
 // Kinds, base types, types, weapons, attached orders of battle and templates read.
@@ -107,8 +106,7 @@ COutcome Import(const std::string& text, const std::string& option) {
                  "U 5 2 Fus Musket 0 0 Foot"});
     CTempFolder folder;
     WriteBytes(folder / "game.btl", text);
-    EXPECT_EQ(world.m_doc.GetData(folder / "game.btl", world.m_tree, flags.at(option)),
-              RESULT_DONE);
+    EXPECT_EQ(ImportGameData(folder / "game.btl", world.m_tree, flags.at(option)), RESULT_DONE);
     const CTreeStore& tree = world.m_tree;
     std::string out = Shape(tree);
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
@@ -193,7 +191,7 @@ TEST(HostileInputs, EveryCaseReadsAsDecided) {
 // read as an empty game file would remove every unit.
 TEST(HostileInputs, PathsThatAreNoFileAreRefused) {
     CTempFolder folder;
-    COobDocument doc;
+    COobDocument doc(nullptr);
     CTreeStore tree;
     tree.InsertItem("kept", TVI_ROOT, TVI_LAST);
     CWorkspace w;
@@ -201,8 +199,9 @@ TEST(HostileInputs, PathsThatAreNoFileAreRefused) {
     for (const std::string& path : {folder / "missing", folder.Path()}) {
         SCOPED_TRACE(path);
         EXPECT_EQ(doc.LoadTree(path, tree), RESULT_CANNOT_OPEN);
-        EXPECT_EQ(doc.InsertTemplate(path, tree, TVI_ROOT, TVI_LAST, 0), RESULT_CANNOT_OPEN);
-        EXPECT_EQ(doc.GetData(path, tree, IMPORT_REMOVE_MISSING), RESULT_CANNOT_OPEN);
+        EXPECT_EQ(doc.m_reader.InsertTemplate(path, tree, TVI_ROOT, TVI_LAST, 0),
+                  RESULT_CANNOT_OPEN);
+        EXPECT_EQ(ImportGameData(path, tree, IMPORT_REMOVE_MISSING), RESULT_CANNOT_OPEN);
         EXPECT_EQ(w.Load(path), RESULT_CANNOT_OPEN);
     }
     EXPECT_EQ(Shape(tree), "kept");
