@@ -156,9 +156,11 @@ void CDialog::OnTreeEndLabelEdit(int treeId,
 }
 
 // The focus moves first and the edit that lost it reports after, so a handler that puts the
-// focus back (a failed check) has the last word.
+// focus back (a failed check) has the last word. A disabled or hidden control refuses the
+// focus, as it would refuse a click.
 void CDialog::MoveFocus(int id) {
-    if (id == m_nFocus) {
+    const CWnd* target = GetDlgItem(id);
+    if (id == m_nFocus || (target && !target->IsReachable())) {
         return;
     }
     const int previous = m_nFocus;
@@ -174,7 +176,7 @@ void CDialog::MoveFocus(int id) {
 
 void CDialog::SetInitialFocus() {
     for (auto& control : m_controls) {
-        if (control->TakesFocus() && control->IsWindowVisible() && control->IsWindowEnabled()) {
+        if (control->TakesFocus() && control->IsReachable()) {
             MoveFocus(control->GetDlgCtrlID());
             return;
         }

@@ -33,19 +33,22 @@ void CDialogDriver::Command(int id) {
 
 void CDialogDriver::Enter() {
     const CWnd* focus = m_dialog.GetDlgItem(m_dialog.GetFocusId());
-    if (focus && focus->Kind() == ControlKind::Button) {
+    if (focus && focus->Kind() == ControlKind::Button && focus->IsWindowEnabled()) {
         m_dialog.DispatchCommand(focus->GetDlgCtrlID());
         return;
     }
+    const CWnd* target = m_dialog.GetDlgItem(IDOK);
     for (const auto& control : m_dialog.Controls()) {
         if (control->Kind() == ControlKind::Button && control->HasStyle(STYLE_DEFAULT)) {
-            if (control->IsWindowEnabled()) {
-                m_dialog.DispatchCommand(control->GetDlgCtrlID());
-            }
-            return;
+            target = control.get();
+            break;
         }
     }
-    m_dialog.DispatchCommand(IDOK);
+    // The default button is pressed even when hidden, never when disabled; without one, OK is
+    // pressed even when the dialog shows no OK button.
+    if (target == nullptr || target->IsWindowEnabled()) {
+        m_dialog.DispatchCommand(target ? target->GetDlgCtrlID() : IDOK);
+    }
 }
 
 void CDialogDriver::Escape() {

@@ -1,6 +1,7 @@
 // The events a backend hands to a running dialog, mapped to its handlers the way the original
 // system did: a click on a check box toggles it first; Enter presses the focused push button,
-// else the default button (hidden or not), else OK; Escape and the close box are Cancel.
+// else the default button (hidden or not), else OK, and never a disabled button; Escape and the
+// close box are Cancel.
 #pragma once
 
 #include <string>

@@ -7,9 +7,12 @@
 
 class CDialog;
 
+// The chooser's flags. Without OFN_FILEMUSTEXIST an open chooser takes a name that does not
+// exist; OFN_OVERWRITEPROMPT makes a save chooser ask before it gives an existing file.
 enum : unsigned {
-    OFN_HIDEREADONLY = 0x0004,
     OFN_OVERWRITEPROMPT = 0x0002,
+    OFN_HIDEREADONLY = 0x0004,
+    OFN_FILEMUSTEXIST = 0x1000,
 };
 
 struct CFileFilter {
@@ -30,6 +33,8 @@ public:
     const std::string& GetPathName() const { return m_strPath; }
 
     bool IsOpenDialog() const { return m_bOpen; }
+    bool MustExist() const { return (m_nFlags & OFN_FILEMUSTEXIST) != 0; }
+    bool AsksBeforeOverwrite() const { return !m_bOpen && (m_nFlags & OFN_OVERWRITEPROMPT) != 0; }
     const std::string& DefaultExtension() const { return m_strDefExt; }
     const std::string& FileName() const { return m_strFileName; }
     unsigned Flags() const { return m_nFlags; }

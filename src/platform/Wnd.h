@@ -31,6 +31,8 @@ public:
     bool IsWindowEnabled() const { return m_bEnabled; }
     void ShowWindow(bool show) { m_bVisible = show; }
     bool IsWindowVisible() const { return m_bVisible; }
+    // Whether the user can reach the control at all: shown and enabled.
+    bool IsReachable() const { return m_bEnabled && m_bVisible; }
 
     // Check boxes: 0 unchecked, 1 checked.
     int GetCheck() const { return m_nCheck; }

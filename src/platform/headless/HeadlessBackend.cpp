@@ -1,5 +1,7 @@
 #include "platform/headless/HeadlessBackend.h"
 
+#include <filesystem>
+
 #include "platform/Dialog.h"
 #include "platform/headless/HeadlessWindow.h"
 
@@ -120,6 +122,15 @@ bool CHeadlessBackend::RunFileDialog(const CFileDialog& request, std::string& pa
     } else {
         shown.answer = m_fileAnswers.front();
         m_fileAnswers.pop_front();
+    }
+    if (shown.answer) {
+        const std::string chosen = AddDefaultExtension(*shown.answer, request.DefaultExtension());
+        const bool exists = std::filesystem::exists(chosen);
+        if (request.MustExist() && !exists) {
+            Fail("file chooser refuses \"" + chosen + "\": it must exist and does not");
+            shown.answer.reset();
+        }
+        shown.askedOverwrite = request.AsksBeforeOverwrite() && exists;
     }
     m_fileDialogs.push_back(shown);
     if (!shown.answer) {

@@ -37,6 +37,7 @@ struct CShownFileDialog {
     unsigned flags = 0;
     std::vector<CFileFilter> filters;
     std::optional<std::string> answer;  // none: cancelled
+    bool askedOverwrite = false;        // the chosen file existed and the user confirmed it
 };
 
 struct CShownPopup {
@@ -62,7 +63,9 @@ public:
     void AnswerMessage(int button);
     void AnswerMessage(std::string expectedText, int button);
     // The next file chooser: the path the user picks (the default extension is added to a
-    // name without one, as the real chooser does), or a cancel.
+    // name without one, as the real chooser does), or a cancel. A chooser that must open an
+    // existing file refuses a path that does not exist, failing the test; a save chooser that
+    // asks before overwriting records that it asked, and the user confirms.
     void AnswerFileDialog(std::string path);
     void CancelFileDialog();
     // The command chosen from the next pop-up menu; 0 dismisses it.

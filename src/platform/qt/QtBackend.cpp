@@ -96,11 +96,10 @@ bool CQtBackend::RunFileDialog(const CFileDialog& request, std::string& path) {
                         PathToQString(request.m_strInitialDir));
     chooser.setAcceptMode(request.IsOpenDialog() ? QFileDialog::AcceptOpen
                                                  : QFileDialog::AcceptSave);
-    chooser.setFileMode(request.IsOpenDialog() ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    chooser.setFileMode(request.MustExist() ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     chooser.setNameFilters(filters);
     chooser.setDefaultSuffix(ToQString(request.DefaultExtension()));
-    chooser.setOption(QFileDialog::DontConfirmOverwrite,
-                      (request.Flags() & OFN_OVERWRITEPROMPT) == 0);
+    chooser.setOption(QFileDialog::DontConfirmOverwrite, !request.AsksBeforeOverwrite());
     if (!request.FileName().empty()) {
         chooser.selectFile(PathToQString(request.FileName()));
     }

@@ -4,8 +4,23 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "platform/PixelImage.h"
+#include "platform/Wnd.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/QtTreeModel.h"
+
+Qt::Alignment TextAlignment(const CWnd& state) {
+    const Qt::Alignment horizontal = state.HasStyle(STYLE_CENTER)  ? Qt::AlignHCenter
+                                     : state.HasStyle(STYLE_RIGHT) ? Qt::AlignRight
+                                                                   : Qt::AlignLeft;
+    return horizontal | Qt::AlignVCenter;
+}
+
+QImage ImageOf(const CPixelImage& image) {
+    return QImage(reinterpret_cast<const uchar*>(image.pixels.data()), image.width, image.height,
+                  image.width * 4, QImage::Format_ARGB32)
+        .copy();
+}
 
 void CQtDialog::keyPressEvent(QKeyEvent* event) {
     const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QImage>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
 #include <functional>
@@ -9,7 +10,15 @@
 
 #include "base/TreeStore.h"
 
+class CWnd;
+struct CPixelImage;
+
 class CQtTreeModel;
+
+// A control's text alignment from its style; vertically centred.
+Qt::Alignment TextAlignment(const CWnd& state);
+// A copy of image's pixels.
+QImage ImageOf(const CPixelImage& image);
 
 // Hands a watched object's events to a function; true eats the event.
 class CQtEventFilter : public QObject {
