@@ -1,0 +1,164 @@
+// What a screen reader meets: every focusable control of every dialog named, names that follow
+// the text the program shows, and text an assistive tool sets taken by the dialog.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <deque>
+#include <filesystem>
+#include <fstream>
+
+#include "app/MainDlg.h"
+#include "dialogs/WorkspaceDlg.h"
+#include "model/Workspace.h"
+#include "platform/qt/QtBackend.h"
+#include "resources/ResourceIds.h"
+#include "resources/Resources.h"
+#include "ui/TestDialog.h"
+
+namespace {
+std::string NameOf(QWidget* widget) {
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+    return accessible ? accessible->text(QAccessible::Name).toStdString() : std::string();
+}
+
+QWidget* WidgetOf(QWidget* window, int id) {
+    return window->findChild<QWidget*>(QString::number(id));
+}
+
+// Answers the modal windows as they open, in order: the front answer runs on the first window
+// it recognises.
+class ModalAnswers {
+public:
+    ModalAnswers() {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            QWidget* top = QApplication::activeModalWidget();
+            if (top != nullptr && !m_answers.empty() && m_answers.front().first(top)) {
+                auto answer = m_answers.front().second;
+                m_answers.pop_front();
+                answer(top);
+            }
+        });
+        m_timer.start(10);
+    }
+    void Add(std::function<bool(QWidget*)> is, std::function<void(QWidget*)> answer) {
+        m_answers.emplace_back(std::move(is), std::move(answer));
+    }
+    bool Done() const { return m_answers.empty(); }
+
+private:
+    QTimer m_timer;
+    std::deque<std::pair<std::function<bool(QWidget*)>, std::function<void(QWidget*)>>> m_answers;
+};
+
+// Runs body on the dialog's window once it is up, then closes the dialog if the body did not.
+void RunShown(CDialog& dlg, const std::function<void(QWidget*)>& body) {
+    QTimer::singleShot(0, [&] {
+        body(QApplication::activeModalWidget());
+        if (dlg.IsRunning()) {
+            dlg.EndDialog(IDCANCEL);
+        }
+    });
+    dlg.DoModal();
+}
+
+bool Shows(const CWnd& control) {
+    return control.Kind() == ControlKind::Static || control.Kind() == ControlKind::Button ||
+           control.Kind() == ControlKind::CheckBox;
+}
+
+TEST(QtAccessibility, EveryFocusableControlIsNamedAndNamesFollowTheText) {
+    CQtBackend backend;
+    for (int id : {IDD_ABOUTBOX, IDD_HARNWICK_DIALOG, IDD_WORKSPACE, IDD_ATTACHED, IDD_UNIT_CLASS,
+                   IDD_FIND, IDD_ADD_LIST}) {
+        CTestDialog dlg(DialogResource(id));
+        RunShown(dlg, [&](QWidget* window) {
+            for (auto& control : dlg.Controls()) {
+                if (control->TakesFocus()) {
+                    EXPECT_FALSE(NameOf(WidgetOf(window, control->GetDlgCtrlID())).empty())
+                        << "dialog " << id << " control " << control->GetDlgCtrlID();
+                }
+                if (Shows(*control)) {
+                    control->SetWindowText("Now " + std::to_string(control->GetDlgCtrlID()));
+                }
+            }
+            dlg.RedrawWindow();
+            // A symbol-only button ("...") is named after its row too.
+            for (auto& control : dlg.Controls()) {
+                if (Shows(*control) && control->GetDlgCtrlID() != -1) {
+                    EXPECT_TRUE(NameOf(WidgetOf(window, control->GetDlgCtrlID()))
+                                    .ends_with(control->GetWindowText()));
+                }
+            }
+            // A path is named after its row's check box, and follows it.
+            if (id == IDD_WORKSPACE) {
+                EXPECT_EQ(NameOf(WidgetOf(window, IDC_WS_LEADER_FACES)),
+                          "Now " + std::to_string(IDC_WS_LEADER_FACES_ON));
+                EXPECT_EQ(NameOf(WidgetOf(window, IDC_WS_OOB_PICK)), "Now -1 Now " + std::to_string(IDC_WS_OOB_PICK));
+            }
+        });
+    }
+}
+
+// Load of the sample through the real menu, message box, file chooser and workspace dialog:
+// the status fields then read " " and "*", as the screen shows them.
+TEST(QtAccessibility, TheStatusFieldsReadWhatTheyShowAfterLoad) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(HW_SAMPLE_DIR);
+    CQtBackend backend;
+    ModalAnswers answers;
+    answers.Add([](QWidget* w) { return qobject_cast<QMessageBox*>(w) != nullptr; },
+                [](QWidget* w) { static_cast<QMessageBox*>(w)->button(QMessageBox::Yes)->click(); });
+    answers.Add([](QWidget* w) { return qobject_cast<QFileDialog*>(w) != nullptr; },
+                [](QWidget* w) {
+                    static_cast<QFileDialog*>(w)->selectFile(HW_SAMPLE_DIR "/harnwick.txt");
+                    QMetaObject::invokeMethod(w, "accept");
+                });
+    answers.Add([](QWidget* w) { return w->windowTitle() == "Workspace Properties"; },
+                [](QWidget* w) { static_cast<QPushButton*>(WidgetOf(w, IDC_WS_ACCEPT))->click(); });
+    CMainDlg dlg;
+    RunShown(dlg, [&](QWidget* window) {
+        EXPECT_EQ(NameOf(WidgetOf(window, IDC_OOB_STATUS)), "-");
+        EXPECT_EQ(NameOf(WidgetOf(window, IDC_TREE)), "Order of battle");
+        for (QAction* action : window->findChildren<QAction*>()) {
+            if (action->text() == "&Load") {
+                action->trigger();
+            }
+        }
+        EXPECT_TRUE(answers.Done());
+        EXPECT_EQ(NameOf(WidgetOf(window, IDC_OOB_STATUS)), " ");
+        EXPECT_EQ(NameOf(WidgetOf(window, IDC_BACKUP_STATUS)), "*");
+    });
+    std::filesystem::current_path(before);
+}
+
+// Text set through the accessibility interface, as dictation tools set it, is what Accept
+// saves; Reset brings the old title back on the screen.
+TEST(QtAccessibility, TextAnAssistiveToolSetsIsTakenByTheDialog) {
+    CQtBackend backend;
+    QTemporaryDir folder;
+    CWorkspace workspace;
+    workspace.m_strPath = folder.filePath("campaign.txt").toStdString();
+    workspace.m_strTitle = "Northern Marches";
+    workspace.m_strOobFile = workspace.m_strTargetFile = "empty";
+    CWorkspaceDlg dlg(workspace);
+    RunShown(dlg, [&](QWidget* window) {
+        auto* title = static_cast<QLineEdit*>(WidgetOf(window, IDC_WS_TITLE));
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(title);
+        ASSERT_NE(accessible->editableTextInterface(), nullptr);
+        accessible->editableTextInterface()->replaceText(0, title->text().size(), "Dictated");
+        static_cast<QPushButton*>(WidgetOf(window, IDC_WS_RESET))->click();
+        EXPECT_EQ(title->text(), "Northern Marches");
+        title->setText("Set from outside");
+        static_cast<QPushButton*>(WidgetOf(window, IDC_WS_ACCEPT))->click();
+    });
+    EXPECT_EQ(workspace.m_strTitle, "Set from outside");
+}
+}  // namespace
