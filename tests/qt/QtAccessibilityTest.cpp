@@ -101,7 +101,8 @@ TEST(QtAccessibility, EveryFocusableControlIsNamedAndNamesFollowTheText) {
             if (id == IDD_WORKSPACE) {
                 EXPECT_EQ(NameOf(WidgetOf(window, IDC_WS_LEADER_FACES)),
                           "Now " + std::to_string(IDC_WS_LEADER_FACES_ON));
-                EXPECT_EQ(NameOf(WidgetOf(window, IDC_WS_OOB_PICK)), "Now -1 Now " + std::to_string(IDC_WS_OOB_PICK));
+                EXPECT_EQ(NameOf(WidgetOf(window, IDC_WS_OOB_PICK)),
+                          "Now -1 Now " + std::to_string(IDC_WS_OOB_PICK));
             }
         });
     }
@@ -114,8 +115,9 @@ TEST(QtAccessibility, TheStatusFieldsReadWhatTheyShowAfterLoad) {
     std::filesystem::current_path(HW_SAMPLE_DIR);
     CQtBackend backend;
     ModalAnswers answers;
-    answers.Add([](QWidget* w) { return qobject_cast<QMessageBox*>(w) != nullptr; },
-                [](QWidget* w) { static_cast<QMessageBox*>(w)->button(QMessageBox::Yes)->click(); });
+    answers.Add(
+        [](QWidget* w) { return qobject_cast<QMessageBox*>(w) != nullptr; },
+        [](QWidget* w) { static_cast<QMessageBox*>(w)->button(QMessageBox::Yes)->click(); });
     answers.Add([](QWidget* w) { return qobject_cast<QFileDialog*>(w) != nullptr; },
                 [](QWidget* w) {
                     static_cast<QFileDialog*>(w)->selectFile(HW_SAMPLE_DIR "/harnwick.txt");

@@ -55,13 +55,27 @@ TEST_F(DialogEventsTest, EnterPressesTheHiddenDefaultButtonThenTheFocusedButton)
               (Log{"click 1000", "kill 101", "click 200", "OnCancel"}));
 }
 
-TEST_F(DialogEventsTest, EnterWithShiftIsSeenByTheHandler) {
+// Shift held with Enter is seen by the handler; a disabled or hidden control never takes the
+// focus, and Enter never presses a disabled button, focused or default.
+TEST_F(DialogEventsTest, EnterSeesShiftAndNeverPressesADisabledButton) {
+    dlg.init = [shared = dlg.init](CTestDialog& d) {
+        shared(d);
+        d.GetDlgItem(101)->EnableWindow(false);
+    };
     dlg.OnClicked(1000, [this] { dlg.Log(GetKeyState(VK_SHIFT) < 0 ? "shift" : "no shift"); });
-    EXPECT_EQ(Run([](CHeadlessUser& user) {
+    EXPECT_EQ(Run([this](CHeadlessUser& user) {
+                  EXPECT_EQ(user.FocusId(), 102);
+                  dlg.GotoDlgCtrl(201);
+                  dlg.GotoDlgCtrl(1000);
+                  EXPECT_EQ(user.FocusId(), 102);
+                  user.Click(200);
+                  dlg.GetDlgItem(200)->EnableWindow(false);
                   user.Enter(true);
                   user.Enter();
+                  dlg.GetDlgItem(1000)->EnableWindow(false);
+                  user.Enter();
               }),
-              (Log{"shift", "no shift", "OnCancel"}));
+              (Log{"kill 102", "click 200", "shift", "no shift", "OnCancel"}));
 }
 
 // Without a default button Enter is OK; a dialog without a close box refuses it.
@@ -144,20 +158,6 @@ TEST_F(DialogEventsTest, TheTreesGesturesReachTheirHandlers) {
                    "end edit II Corps cancelled", "OnCancel"}));
 }
 
-// Rows of 16 pixels, 19 pixels of indent a level, 6 a character; the tree sits at 100, 10
-// dialog units: 150, 16 pixels.
-TEST_F(DialogEventsTest, TheHeadlessTreeMeasuresTheRowsShown) {
-    Run([this](CHeadlessUser&) {
-        CTreeStore& tree = dlg.GetDlgItem(107)->Tree();
-        const HTREEITEM brigade = tree.GetChildItem(dlg.corps);
-        EXPECT_EQ(dlg.GetTreeItemRect(107, dlg.corps), CRect{});
-        tree.Expand(dlg.army, TVE_EXPAND);
-        tree.Expand(dlg.corps, TVE_EXPAND);
-        EXPECT_EQ(dlg.GetTreeItemRect(107, brigade), (CRect{57, 32, 57 + 6 * 7 + 4, 48}));
-        EXPECT_EQ(dlg.ClientToScreen(107, CPoint{1, 2}), (CPoint{151, 18}));
-    });
-}
-
 TEST_F(DialogEventsTest, WhatTheTestDidNotScriptFailsNamingWhatItShowed) {
     CollectFailures();
     CTestDialog plain(kPlainDialog);
@@ -222,30 +222,4 @@ TEST_F(DialogEventsTest, AFrameGivesItsClientSizeAndAControlCanBeMovedAndResized
     summary.DoModal();
 }
 
-TEST_F(DialogEventsTest, APopupMenuRunsTheChosenCommand) {
-    const CMenuItem popup{"&Edit", 0, {{"&Copy", 200}, {}, {"Cu&t", 105}}};
-    ui.AnswerPopupMenu(200);
-    ui.AnswerPopupMenu(0);
-    EXPECT_EQ(Run([&](CHeadlessUser& user) {
-                  user.Dialog().TrackPopupMenu(popup, CPoint{5, 6});
-                  user.Dialog().TrackPopupMenu(popup, CPoint{7, 8});
-              }),
-              (Log{"click 200", "OnCancel"}));
-    ASSERT_EQ(ui.Popups().size(), 2u);
-    EXPECT_EQ(ui.Popups()[0].point, (CPoint{5, 6}));
-}
-
-TEST_F(DialogEventsTest, ADialogOpenedFromAHandlerRunsItsOwnScript) {
-    CTestDialog plain(kPlainDialog);
-    dlg.OnClicked(200, [&] { dlg.Log("inner " + std::to_string(plain.DoModal())); });
-    ui.OnDialog(902, [](CHeadlessUser& user) {
-        EXPECT_EQ(ActiveDialog()->Resource().id, 902);
-        user.Enter();
-    });
-    EXPECT_EQ(Run([](CHeadlessUser& user) {
-                  user.Click(200);
-                  EXPECT_EQ(ActiveDialog()->Resource().id, 901);
-              }),
-              (Log{"kill 101", "inner 1", "OnCancel"}));
-}
 }  // namespace
