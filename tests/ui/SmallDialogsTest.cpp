@@ -141,25 +141,25 @@ TEST_F(AddListDlgTest, OffersTheTypesOfTheClassRangeUpToTheStopName) {
 
 TEST_F(AddListDlgTest, AcceptAndEnterGiveThePickedTypeAndCancelGivesNone) {
     CAddListDlg dlg(database, 1, 3);
-    ui.OnDialog(IDD_ADD_LIST, [](CHeadlessUser& user) {
-        user.Pick(IDC_CHOICE_LIST, "Field guns");
-        user.Click(IDC_CHOICE_ACCEPT);
-    });
-    EXPECT_EQ(dlg.DoModal(), 1);
-    ASSERT_NE(dlg.ChosenType(), nullptr);
-    EXPECT_EQ(dlg.ChosenType()->m_strType, "Guns");
-
-    ui.OnDialog(IDD_ADD_LIST, [](CHeadlessUser& user) {
-        user.Pick(IDC_CHOICE_LIST, 1);
-        user.Enter();
-    });
-    EXPECT_EQ(dlg.DoModal(), 1);
-    EXPECT_EQ(dlg.ChosenType()->m_strType, "Horse");
-
-    for (const Script& leave : kCloseWithoutChoosing) {
-        ui.OnDialog(IDD_ADD_LIST, leave);
-        EXPECT_EQ(dlg.DoModal(), 0);
-        EXPECT_EQ(dlg.ChosenType(), nullptr);
+    const std::pair<Script, std::string> cases[] = {
+        {[](CHeadlessUser& u) {
+             u.Pick(IDC_CHOICE_LIST, "Field guns");
+             u.Click(IDC_CHOICE_ACCEPT);
+         },
+         "Guns"},
+        {[](CHeadlessUser& u) {
+             u.Pick(IDC_CHOICE_LIST, 1);
+             u.Enter();
+         },
+         "Horse"},
+        {kCloseWithoutChoosing[0], ""},
+        {kCloseWithoutChoosing[1], ""},
+        {kCloseWithoutChoosing[2], ""},
+    };
+    for (const auto& [script, type] : cases) {
+        ui.OnDialog(IDD_ADD_LIST, script);
+        EXPECT_EQ(dlg.DoModal(), type.empty() ? 0 : 1);
+        EXPECT_EQ(dlg.ChosenType() ? std::string(dlg.ChosenType()->m_strType) : "", type);
     }
 }
 
