@@ -68,9 +68,10 @@ void CQtControl::Sync() {
     // A control named after itself needs nothing: Qt reads out the text it shows.
     if (m_bNamed) {
         const QString name = NameNow();
-        if (name != m_shownName || m_pWidget->accessibleName().isEmpty()) {
+        if (!m_bNameShown || name != m_shownName) {
             m_pWidget->setAccessibleName(name);
             m_shownName = name;
+            m_bNameShown = true;
         }
     }
     SyncKind();

@@ -72,6 +72,7 @@ private:
     const CWnd* m_pDescriber = nullptr;
     bool m_bWithOwnText = false;
     bool m_bNamed = false;
+    bool m_bNameShown = false;
     QString m_shownName;
 };
 
