@@ -37,8 +37,11 @@ void CQtEditControl::ShowText(const QString& text) {
 }
 
 void CQtEditControl::SyncKind() {
+    // A new limit cuts the text shown, not the text the logic set.
     if (m_state.GetLimitText() != m_nLimit) {
         m_nLimit = m_state.GetLimitText();
+        m_bShowing = true;
         m_pEdit->setMaxLength(m_nLimit > 0 ? m_nLimit : 32767);
+        m_bShowing = false;
     }
 }
