@@ -41,7 +41,8 @@ public:
         OnCommand(ID_FILE_LOAD, [this, workspacePath] {
             auto workspace = std::make_unique<CWorkspace>();
             workspace->Load(workspacePath);
-            std::unique_ptr<CGameDatabase> database = LoadDatabase(workspace->m_strTargetFile);
+            std::unique_ptr<CGameDatabase> database =
+                m_session.LoadDatabase(workspace->m_strTargetFile);
             OpenWorkspace(std::move(workspace), std::move(database));
         });
     }

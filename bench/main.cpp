@@ -12,6 +12,7 @@
 
 #include "BenchData.h"
 #include "BenchTimer.h"
+#include "HistoryBench.h"
 #include "base/Result.h"
 #include "gamedata/GameDatabase.h"
 #include "model/GameImport.h"
@@ -152,6 +153,7 @@ int main() {
     Report("import / LoadTree", large.import / large.load, 3.0);
     Report("save ns per entry, 10^6 / 10^4",
            PerEntry(large.save, large.entries) / PerEntry(small.save, small.entries), 1.5);
+    MeasureHistory(folder.string(), targetPath);
     fs::remove_all(folder);
     return 0;
 }

@@ -4,9 +4,6 @@
 #include <istream>
 
 #include "dialogs/AboutDlg.h"
-#include "gamedata/GameDatabase.h"
-#include "model/OobDocument.h"
-#include "model/Workspace.h"
 #include "platform/DataExchange.h"
 #include "resources/ResourceIds.h"
 #include "resources/Resources.h"
@@ -72,6 +69,10 @@ void CMainDlg::MapCommands() {
         OnCommand(command, [this, command] { OnReport(command); });
     }
     OnCommand(ID_ABOUT, [this] { OnAbout(); });
+    OnCommand(ID_EDIT_UNDO, [this] { OnUndo(); });
+    OnCommand(ID_EDIT_REDO, [this] { OnRedo(); });
+    OnUpdateCommand(ID_EDIT_UNDO, [this] { return m_session.Edit().CanUndo(); });
+    OnUpdateCommand(ID_EDIT_REDO, [this] { return m_session.Edit().CanRedo(); });
 
     OnClicked(IDC_OOB_STATUS, [this] { OnSave(); });
     OnClicked(IDC_BACKUP_STATUS, [this] { OnBackupSave(); });
@@ -83,18 +84,21 @@ void CMainDlg::MapCommands() {
     });
 }
 
+// The fields show what the session holds; none of them is the user's to change.
 void CMainDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
-    DDX_Control(pDX, IDC_CLIP_LIST, m_clipList);
-    DDX_Control(pDX, IDC_TREE, m_tree);
-    DDX_Text(pDX, IDC_OOB_STATUS, m_strOobStatus);
-    DDV_MaxChars(pDX, m_strOobStatus, 3);
-    DDX_Text(pDX, IDC_BACKUP_STATUS, m_strBackupStatus);
-    DDV_MaxChars(pDX, m_strBackupStatus, 3);
-    DDX_Text(pDX, IDC_MARKED_NAME, m_strMarkedName);
-    DDV_MaxChars(pDX, m_strMarkedName, 50);
-    DDX_Text(pDX, IDC_MARKED_CAPTION, m_strMarkedCaption);
-    DDV_MaxChars(pDX, m_strMarkedCaption, 30);
+    DDX_Control(pDX, IDC_TREE, m_session.ViewStore());
+    if (pDX->m_bSaveAndValidate) {
+        return;
+    }
+    std::string oobStatus = m_session.OobStatus();
+    DDX_Text(pDX, IDC_OOB_STATUS, oobStatus);
+    std::string backupStatus = m_session.BackupStatus();
+    DDX_Text(pDX, IDC_BACKUP_STATUS, backupStatus);
+    std::string markedName = m_session.MarkedName();
+    DDX_Text(pDX, IDC_MARKED_NAME, markedName);
+    std::string markedCaption = m_session.MarkedCaption();
+    DDX_Text(pDX, IDC_MARKED_CAPTION, markedCaption);
 }
 
 bool CMainDlg::OnInitDialog() {
@@ -111,21 +115,9 @@ bool CMainDlg::OnInitDialog() {
     m_strStartDir = ReadStartDir(startIni);
     startIni.close();
 
-    m_pDocument.reset();
-    m_pWorkspace.reset();
-    m_pDatabase.reset();
-    m_strOobStatus = "-";
-    m_strBackupStatus = "-";
-    ClearClipboard();
+    m_session.Close();
     UpdateData(false);
     return true;
-}
-
-void CMainDlg::ClearClipboard() {
-    m_strMarkedName = "empty";
-    m_strMarkedCaption = "Marked item";
-    m_hMarked = nullptr;
-    m_nClipMode = 0;
 }
 
 void CMainDlg::OnCancel() {
@@ -153,6 +145,16 @@ void CMainDlg::OnExit() {
 void CMainDlg::OnAbout() {
     CAboutDlg dlg;
     dlg.DoModal();
+}
+
+void CMainDlg::OnUndo() {
+    m_session.Edit().Undo();
+    UpdateData(false);
+}
+
+void CMainDlg::OnRedo() {
+    m_session.Edit().Redo();
+    UpdateData(false);
 }
 
 // The Edit menu, 20 pixels right of the selected entry's label and level with its bottom;

@@ -1,5 +1,5 @@
 // The main window (dialog 102): the order-of-battle tree, the clipboard and status fields, the
-// menu of every command, and the three objects of an open workspace.
+// menu of every command, and the session that holds the open workspace.
 #pragma once
 
 #include <cstdint>
@@ -9,9 +9,9 @@
 
 #include "app/EditorPrompts.h"
 #include "base/Result.h"
+#include "model/Session.h"
 #include "platform/Dialog.h"
 
-class COobDocument;
 class CWorkspace;
 class CGameDatabase;
 
@@ -20,22 +20,15 @@ public:
     CMainDlg();
     ~CMainDlg() override;
 
-    std::uint8_t m_nClipMode = 0;  // 0 nothing marked, 1 Cut, 2 Copy
-    HTREEITEM m_hMarked = nullptr;
     std::string m_strStartDir;  // the folder every file dialog opens in
-    // All three set (a workspace is open) or all none.
-    std::unique_ptr<COobDocument> m_pDocument;
-    std::unique_ptr<CWorkspace> m_pWorkspace;
-    std::unique_ptr<CGameDatabase> m_pDatabase;
-    CListBox m_clipList;  // the copied subtree's lines
-    CTreeCtrl m_tree;     // the order of battle; each entry owns its item
-    std::string m_strOobStatus;
-    std::string m_strBackupStatus;
-    std::string m_strMarkedName;
-    std::string m_strMarkedCaption;
-    const CPixelImage* m_hIcon;
     // Answers the reader's questions for every database this window creates.
     CEditorPrompts m_prompts{*this};
+    // The open workspace with its tree, status fields and clipboard mark; every change of the
+    // tree goes through its edit layer.
+    CSession m_session{m_prompts};
+    // The order of battle the tree control shows: the session's store.
+    const CTreeStore& m_tree = m_session.Tree();
+    const CPixelImage* m_hIcon;
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
@@ -80,19 +73,17 @@ protected:
     void OnSaveTargetFile();
     void OnReport(int command);
     void OnAbout();
+    void OnUndo();
+    void OnRedo();
 
     // Helpers of the File commands. SaveFilesPrompt gives false when the user wanted the files
     // saved and a write failed, so that the command that asked goes no further.
     bool SaveFilesPrompt();
     void OpenWorkspace(std::unique_ptr<CWorkspace> workspace,
                        std::unique_ptr<CGameDatabase> database);
-    // A database loaded from targetFile that asks this window about unknown records.
-    std::unique_ptr<CGameDatabase> LoadDatabase(const std::string& targetFile);
     // Copies the file source into destination; RESULT_DONE, RESULT_CANNOT_OPEN (source) or
     // RESULT_CANNOT_WRITE (destination, left as it was).
     static CWriteResult CopyFileText(const std::string& source, const std::string& destination);
-    // Nothing marked: New, Load, Delete and a paste in Cut mode end every mark.
-    void ClearClipboard();
 
 private:
     void MapCommands();
@@ -105,8 +96,6 @@ private:
     // A fresh workspace at path, edited in "Workspace Properties"; none unless accepted.
     std::unique_ptr<CWorkspace> EditNewWorkspace(const std::string& path, bool load,
                                                  std::uint16_t mode, std::uint16_t oobOpenMode);
-    // Makes the three objects current, the old ones and the old tree gone.
-    void Install(std::unique_ptr<CWorkspace> workspace, std::unique_ptr<CGameDatabase> database);
     void ShowWriteError(const CWriteResult& result);
 };
 

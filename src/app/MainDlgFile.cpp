@@ -8,7 +8,6 @@
 #include "dialogs/WorkspaceDlg.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
-#include "model/OobDocument.h"
 #include "model/Workspace.h"
 #include "platform/FileDialog.h"
 
@@ -54,40 +53,17 @@ std::unique_ptr<CWorkspace> CMainDlg::EditNewWorkspace(const std::string& path, 
     return workspace;
 }
 
-std::unique_ptr<CGameDatabase> CMainDlg::LoadDatabase(const std::string& targetFile) {
-    auto database = std::make_unique<CGameDatabase>();
-    database->m_pPrompts = &m_prompts;
-    database->Load(targetFile);
-    return database;
-}
-
-// The tree goes first: its items point into the old database.
-void CMainDlg::Install(std::unique_ptr<CWorkspace> workspace,
-                       std::unique_ptr<CGameDatabase> database) {
-    m_tree.DeleteAllItems();
-    ClearClipboard();
-    m_pDocument.reset();
-    m_pDatabase = std::move(database);
-    m_pDocument = std::make_unique<COobDocument>(m_pDatabase.get());
-    m_pWorkspace = std::move(workspace);
-}
-
 // A write that fails leaves the status fields as they were, and the command that asked (New
 // or Load) stops, so that the changes are not thrown away with the tree.
 bool CMainDlg::SaveFilesPrompt() {
-    UpdateData(true);
-    if (m_strOobStatus != "*" || !Ask("Do you want to save your files?", "Save")) {
+    if (std::string(m_session.OobStatus()) != "*" ||
+        !Ask("Do you want to save your files?", "Save")) {
         return true;
     }
-    CWriteResult written = m_pDocument->Save(m_pDocument->m_strPath, m_tree);
-    if (written.Done()) {
-        written = m_pWorkspace->Save(m_pWorkspace->m_strPath);
-    }
-    if (!written.Done()) {
+    if (const CWriteResult written = m_session.Save(); !written.Done()) {
         ShowWriteError(written);
         return false;
     }
-    m_strOobStatus = " ";
     UpdateData(false);
     return true;
 }
@@ -95,10 +71,7 @@ bool CMainDlg::SaveFilesPrompt() {
 // The workspace replaces the open one, with the tree its order-of-battle file holds.
 void CMainDlg::OpenWorkspace(std::unique_ptr<CWorkspace> workspace,
                              std::unique_ptr<CGameDatabase> database) {
-    Install(std::move(workspace), std::move(database));
-    m_strOobStatus = " ";
-    m_strBackupStatus = "*";
-    m_pDocument->LoadTree(m_pWorkspace->m_strOobFile, m_tree);
+    m_session.Open(std::move(workspace), std::move(database));
     UpdateData(false);
 }
 
@@ -122,12 +95,11 @@ void CMainDlg::NewWorkspace(const char* question, std::uint16_t oobOpenMode, boo
     if (!workspace) {
         return;
     }
-    std::unique_ptr<CGameDatabase> database = LoadDatabase(workspace->m_strTargetFile);
+    std::unique_ptr<CGameDatabase> database = m_session.LoadDatabase(workspace->m_strTargetFile);
     // The skeleton is written before anything is replaced, so that a write that fails leaves
     // the open workspace, its tree and the status fields as they were.
     if (createDefault) {
-        const CWriteResult written =
-            COobWriter(database.get()).CreateDefault(workspace->m_strOobFile);
+        const CWriteResult written = CSession::WriteSkeleton(*database, workspace->m_strOobFile);
         if (!written.Done()) {
             ShowWriteError(written);
             return;
@@ -162,7 +134,7 @@ void CMainDlg::OnNewAttachedOob() {
     if (!workspace) {
         return;
     }
-    std::unique_ptr<CGameDatabase> database = LoadDatabase(workspace->m_strTargetFile);
+    std::unique_ptr<CGameDatabase> database = m_session.LoadDatabase(workspace->m_strTargetFile);
     CAttachedDlg dlg(*database);
     const int index = dlg.DoModal();
     if (index < 0 || index >= database->m_AttachedOobs.Count()) {
@@ -176,10 +148,7 @@ void CMainDlg::OnNewAttachedOob() {
     const CWriteResult copied = CopyFileText(source, workspace->m_strOobFile);
     if (copied == RESULT_CANNOT_OPEN) {
         MessageBox("Bad or missing " + source + " file!", "Error", MB_ICONEXCLAMATION);
-        Install(nullptr, nullptr);
-        m_pDocument.reset();
-        m_strOobStatus = "-";
-        m_strBackupStatus = "-";
+        m_session.Close();
         UpdateData(false);
         return;
     }
@@ -200,7 +169,8 @@ void CMainDlg::OnLoad() {
     }
     std::unique_ptr<CWorkspace> workspace = EditNewWorkspace(*path, true, 1, 0);
     if (workspace) {
-        std::unique_ptr<CGameDatabase> database = LoadDatabase(workspace->m_strTargetFile);
+        std::unique_ptr<CGameDatabase> database =
+            m_session.LoadDatabase(workspace->m_strTargetFile);
         OpenWorkspace(std::move(workspace), std::move(database));
     }
 }
@@ -212,23 +182,24 @@ void CMainDlg::OnSave() {
 // A workspace file that cannot be written keeps the workspace's old path (Save changes it only
 // when it succeeds), so that Properties goes on saving where the workspace file is.
 void CMainDlg::OnSaveAs() {
-    if (!m_pWorkspace || !Ask("Do you want to save your workspace under a new name?", "Save As")) {
+    CWorkspace* workspace = m_session.Workspace();
+    if (!workspace || !Ask("Do you want to save your workspace under a new name?", "Save As")) {
         return;
     }
     const std::optional<std::string> path = PickWorkspaceFile(false);
     if (!path) {
         return;
     }
-    if (const CWriteResult written = m_pWorkspace->Save(*path); !written.Done()) {
+    if (const CWriteResult written = workspace->Save(*path); !written.Done()) {
         ShowWriteError(written);
     }
 }
 
 void CMainDlg::OnWorkspaceProperties() {
-    if (!m_pWorkspace) {
+    if (!m_session.IsOpen()) {
         return;
     }
-    CWorkspaceDlg dlg(*m_pWorkspace);
+    CWorkspaceDlg dlg(*m_session.Workspace());
     dlg.m_nMode = 1;
     dlg.m_nOpenMode = 0;
     dlg.m_strInitialDir = m_strStartDir;

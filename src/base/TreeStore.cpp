@@ -1,5 +1,6 @@
 #include "base/TreeStore.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -227,6 +228,89 @@ bool CTreeStore::DeleteItem(HTREEITEM entry) {
         observer->AfterRemove();
     }
     return true;
+}
+
+CDetachedSubtree& CDetachedSubtree::operator=(CDetachedSubtree&& other) noexcept {
+    if (this != &other) {
+        if (m_pRoot) {
+            CTreeStore::DestroyChildren(*m_pRoot);
+        }
+        m_pRoot = std::move(other.m_pRoot);
+        m_nCount = std::exchange(other.m_nCount, 0);
+    }
+    return *this;
+}
+
+CDetachedSubtree::~CDetachedSubtree() {
+    if (m_pRoot) {
+        CTreeStore::DestroyChildren(*m_pRoot);
+    }
+}
+
+CDetachedSubtree CTreeStore::Detach(HTREEITEM entry) {
+    CDetachedSubtree detached;
+    if (entry == nullptr || entry == TVI_ROOT || entry == TVI_FIRST || entry == TVI_LAST ||
+        entry == m_pRoot.get()) {
+        return detached;
+    }
+    if (m_hCaret && IsInSubtree(m_hCaret, entry)) {
+        SelectItem(nullptr);
+    }
+    if (CTreeObserver* observer = Told()) {
+        observer->BeforeRemove(entry);
+    }
+    CTreeEntry& parent = *entry->m_pParent;
+    const std::size_t row = entry->m_nRow;
+    detached.m_pRoot = std::move(parent.m_children[row]);
+    parent.m_children.erase(parent.m_children.begin() + static_cast<std::ptrdiff_t>(row));
+    Renumber(parent, row);
+    entry->m_pParent = nullptr;
+    // Counted once here, so that putting the subtree back does not walk it again.
+    std::size_t count = 0;
+    std::vector<const CTreeEntry*> pending{entry};
+    while (!pending.empty()) {
+        const CTreeEntry* e = pending.back();
+        pending.pop_back();
+        ++count;
+        for (const auto& child : e->m_children) {
+            pending.push_back(child.get());
+        }
+    }
+    detached.m_nCount = count;
+    m_nCount -= count;
+    if (CTreeObserver* observer = Told()) {
+        observer->AfterRemove();
+    }
+    return detached;
+}
+
+HTREEITEM CTreeStore::Attach(CDetachedSubtree&& subtree, HTREEITEM parent, std::size_t row) {
+    if (!subtree.m_pRoot || parent == TVI_FIRST || parent == TVI_LAST) {
+        return nullptr;
+    }
+    CTreeEntry& owner = *Resolve(parent);
+    row = std::min(row, owner.m_children.size());
+    if (CTreeObserver* observer = Told()) {
+        observer->BeforeInsert(&owner, row);
+    }
+    CTreeEntry& root = **owner.m_children.insert(
+        owner.m_children.begin() + static_cast<std::ptrdiff_t>(row), std::move(subtree.m_pRoot));
+    root.m_pParent = &owner;
+    Renumber(owner, row);
+    m_nCount += std::exchange(subtree.m_nCount, 0);
+    if (CTreeObserver* observer = Told()) {
+        observer->AfterInsert(&root);
+    }
+    return &root;
+}
+
+std::unique_ptr<CTreeItemData> CTreeStore::ExchangeItemData(HTREEITEM entry,
+                                                            std::unique_ptr<CTreeItemData> data) {
+    std::swap(entry->m_pData, data);
+    if (CTreeObserver* observer = Told()) {
+        observer->LabelChanged(entry);
+    }
+    return data;
 }
 
 bool CTreeStore::Expand(HTREEITEM entry, TreeExpand how) {

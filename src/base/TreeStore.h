@@ -75,6 +75,25 @@ private:
 
 static_assert(alignof(CTreeEntry) <= pool_detail::kGranule);
 
+// A subtree taken out of its store whole: its entries keep their data, labels, expansion and
+// handles, and it knows how many entries it holds, so putting it back costs what inserting one
+// entry costs. Destroyed unattached, it destroys its entries and their data.
+class CDetachedSubtree {
+public:
+    CDetachedSubtree() = default;
+    CDetachedSubtree(CDetachedSubtree&&) noexcept = default;
+    CDetachedSubtree& operator=(CDetachedSubtree&& other) noexcept;
+    ~CDetachedSubtree();
+
+    HTREEITEM Root() const { return m_pRoot.get(); }
+    std::size_t Count() const { return m_nCount; }  // entries, the root included
+
+private:
+    friend class CTreeStore;
+    std::unique_ptr<CTreeEntry> m_pRoot;
+    std::size_t m_nCount = 0;
+};
+
 class CTreeStore {
 public:
     CTreeStore();
@@ -117,6 +136,17 @@ public:
     bool DeleteItem(HTREEITEM entry);
     bool DeleteAllItems() { return DeleteItem(TVI_ROOT); }
 
+    // Takes entry with its subtree out of the store, kept whole for Attach; the observer hears
+    // one removal. A caret inside it becomes none.
+    CDetachedSubtree Detach(HTREEITEM entry);
+    // Puts subtree back as the child at row of parent (TVI_ROOT for the top level; a row past
+    // the last child puts it last); the observer hears one insertion. Gives its root.
+    HTREEITEM Attach(CDetachedSubtree&& subtree, HTREEITEM parent, std::size_t row);
+    // Gives entry other data in place of its own and hands back the old; the observer hears the
+    // entry changed (its label may be the data's).
+    std::unique_ptr<CTreeItemData> ExchangeItemData(HTREEITEM entry,
+                                                    std::unique_ptr<CTreeItemData> data);
+
     bool Expand(HTREEITEM entry, TreeExpand how);
 
     std::size_t GetCount() const { return m_nCount; }
@@ -151,7 +181,8 @@ private:
     HTREEITEM Insert(std::unique_ptr<std::string>& label, std::unique_ptr<CTreeItemData>& data,
                      HTREEITEM parent, HTREEITEM insertAfter);
     static void Renumber(CTreeEntry& parent, std::size_t from);
-    std::size_t DestroyChildren(CTreeEntry& entry);
+    friend class CDetachedSubtree;
+    static std::size_t DestroyChildren(CTreeEntry& entry);
 
     std::unique_ptr<CTreeEntry> m_pRoot;
     HTREEITEM m_hCaret = nullptr;

@@ -1,5 +1,6 @@
 #include "cli/CliCommands.h"
 
+#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -14,25 +15,10 @@
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
 #include "model/Reports.h"
+#include "model/Session.h"
+#include "model/Workspace.h"
 
 namespace {
-
-// Everything one command works on: the database, its prompts, the document and the tree, and
-// the lines the reader passed over, with their line numbers.
-struct CSession {
-    CSession(const CCliOptions& options, std::ostream& err) : prompts(options.unknownClass, err) {
-        database.m_pPrompts = &prompts;
-        document.m_reader.m_onPassedOver = [this](int lineNumber, const std::string& line) {
-            passedOver.push_back("line " + std::to_string(lineNumber) + ": no item kind: " + line);
-        };
-    }
-
-    CCliPrompts prompts;
-    CGameDatabase database;
-    COobDocument document{&database};
-    CTreeStore tree;
-    std::vector<std::string> passedOver;
-};
 
 int CannotOpen(std::ostream& err, const std::string& path) {
     err << "harnwick-cli: cannot open " << path << '\n';
@@ -47,18 +33,44 @@ int Written(std::ostream& err, const CWriteResult& result) {
     return EXIT_CANNOT_WRITE;
 }
 
-int LoadTarget(CSession& session, const std::string& path, std::ostream& err) {
-    return session.database.Load(path) == RESULT_DONE ? EXIT_DONE : CannotOpen(err, path);
+// The tool's own session: the target file and the order-of-battle file named on the command
+// line stand for a workspace's. The lines the reader passed over are kept, with their numbers.
+struct CCliSession {
+    CCliSession(const CCliOptions& options, std::ostream& err)
+        : prompts(options.unknownClass, err), session(prompts) {
+        session.m_onPassedOver = [this](int lineNumber, const std::string& line) {
+            passedOver.push_back("line " + std::to_string(lineNumber) + ": no item kind: " + line);
+        };
+    }
+
+    CCliPrompts prompts;
+    CSession session;
+    std::unique_ptr<CGameDatabase> database;  // loaded, not yet open
+    std::vector<std::string> passedOver;
+};
+
+int LoadTarget(CCliSession& cli, const std::string& path, std::ostream& err) {
+    int result = RESULT_DONE;
+    cli.database = cli.session.LoadDatabase(path, &result);
+    return result == RESULT_DONE ? EXIT_DONE : CannotOpen(err, path);
 }
 
-int LoadBoth(CSession& session, const CCliOptions& options, std::ostream& err) {
-    if (int status = LoadTarget(session, options.files[0], err)) {
+int Open(CCliSession& cli, const std::string& target, const std::string& oobFile,
+         std::ostream& err) {
+    if (int status = LoadTarget(cli, target, err)) {
         return status;
     }
-    if (session.document.LoadTree(options.files[1], session.tree) != RESULT_DONE) {
-        return CannotOpen(err, options.files[1]);
+    auto workspace = std::make_unique<CWorkspace>();
+    workspace->m_strOobFile = oobFile;
+    workspace->m_strTargetFile = target;
+    if (cli.session.Open(std::move(workspace), std::move(cli.database)) != RESULT_DONE) {
+        return CannotOpen(err, oobFile);
     }
     return EXIT_DONE;
+}
+
+int LoadBoth(CCliSession& cli, const CCliOptions& options, std::ostream& err) {
+    return Open(cli, options.files[0], options.files[1], err);
 }
 
 // Position keys as the key report writes them: 2.1.3. is the third child of the first child of
@@ -100,13 +112,13 @@ std::string MissingRecords(const COobItem& item) {
     return missing;
 }
 
-int Tree(CSession& session, const CCliOptions& options, std::ostream& out, std::ostream& err) {
-    if (int status = LoadBoth(session, options, err)) {
+int Tree(CCliSession& cli, const CCliOptions& options, std::ostream& out, std::ostream& err) {
+    if (int status = LoadBoth(cli, options, err)) {
         return status;
     }
     CKeyCounter keys;
-    for (CTreeWalk walk(session.tree, nullptr); !walk.Done(); walk.Step()) {
-        const COobItem& item = *ItemOf(session.tree, walk.Current());
+    for (CTreeWalk walk(cli.session.Tree(), nullptr); !walk.Done(); walk.Step()) {
+        const COobItem& item = *ItemOf(cli.session.Tree(), walk.Current());
         out << keys.Next(walk.Depth()) << '\t' << static_cast<unsigned>(item.m_nType) << '\t'
             << KindText(item) << '\t' << item.m_strName << '\t' << Format("%g", item.Cost()) << '\t'
             << Format("%g", item.Men()) << '\n';
@@ -114,22 +126,22 @@ int Tree(CSession& session, const CCliOptions& options, std::ostream& out, std::
     return EXIT_DONE;
 }
 
-int Check(CSession& session, const CCliOptions& options, std::ostream& out, std::ostream& err) {
-    if (int status = LoadBoth(session, options, err)) {
+int Check(CCliSession& cli, const CCliOptions& options, std::ostream& out, std::ostream& err) {
+    if (int status = LoadBoth(cli, options, err)) {
         return status;
     }
     std::vector<std::string> problems;
-    for (const std::string& warning : session.prompts.Warnings()) {
+    for (const std::string& warning : cli.prompts.Warnings()) {
         std::string line = warning;
         for (char& c : line) {
             c = c == '\n' ? ' ' : c;
         }
         problems.push_back(line);
     }
-    problems.insert(problems.end(), session.passedOver.begin(), session.passedOver.end());
+    problems.insert(problems.end(), cli.passedOver.begin(), cli.passedOver.end());
     CKeyCounter keys;
-    for (CTreeWalk walk(session.tree, nullptr); !walk.Done(); walk.Step()) {
-        const COobItem& item = *ItemOf(session.tree, walk.Current());
+    for (CTreeWalk walk(cli.session.Tree(), nullptr); !walk.Done(); walk.Step()) {
+        const COobItem& item = *ItemOf(cli.session.Tree(), walk.Current());
         const std::string key = keys.Next(walk.Depth());
         const std::string missing = MissingRecords(item);
         if (!missing.empty()) {
@@ -144,72 +156,78 @@ int Check(CSession& session, const CCliOptions& options, std::ostream& out, std:
     return problems.empty() ? EXIT_DONE : EXIT_PROBLEMS;
 }
 
-int Report(CSession& session, const CCliOptions& options, std::ostream& err) {
-    if (int status = LoadBoth(session, options, err)) {
+int Report(CCliSession& cli, const CCliOptions& options, std::ostream& err) {
+    if (int status = LoadBoth(cli, options, err)) {
         return status;
     }
-    CWriteBuffer& buffer = session.document.m_writer.Buffer();
+    CWriteBuffer& buffer = cli.session.Document()->m_writer.Buffer();
+    const CTreeStore& tree = cli.session.Tree();
     const std::string& out = options.files[2];
     if (options.report == "html") {
         const int flags = (options.costs ? HTML_COSTS : 0) | (options.images ? HTML_IMAGES : 0);
-        return Written(err, WriteReport(buffer, out, session.tree, ReportKind::kHtml, flags));
+        return Written(err, WriteReport(buffer, out, tree, ReportKind::kHtml, flags));
     }
     if (options.report == "cost") {
-        return Written(err, WriteReport(buffer, out, session.tree, ReportKind::kCost));
+        return Written(err, WriteReport(buffer, out, tree, ReportKind::kCost));
     }
     if (options.report == "leader") {
-        return Written(err, WriteReport(buffer, out, session.tree, ReportKind::kLeader));
+        return Written(err, WriteReport(buffer, out, tree, ReportKind::kLeader));
     }
-    return Written(err, WriteReport(buffer, out, session.tree, ReportKind::kKey));
+    return Written(err, WriteReport(buffer, out, tree, ReportKind::kKey));
 }
 
 // A game file that does not open stops the import before OUT is written.
-int Import(CSession& session, const CCliOptions& options, std::ostream& err) {
-    if (int status = LoadBoth(session, options, err)) {
+int Import(CCliSession& cli, const CCliOptions& options, std::ostream& err) {
+    if (int status = LoadBoth(cli, options, err)) {
         return status;
     }
     const std::string& gameFile = options.files[2];
-    if (ImportGameData(gameFile, session.tree, options.importFlags) != RESULT_DONE) {
+    const int imported = cli.session.Edit().ChangeTree(
+        [&](CTreeStore& tree) { return ImportGameData(gameFile, tree, options.importFlags); });
+    if (imported != RESULT_DONE) {
         return CannotOpen(err, gameFile);
     }
-    return Written(err, session.document.Save(options.files[3], session.tree));
+    return Written(err, cli.session.SaveOobAs(options.files[3]));
 }
 
 }  // namespace
 
 int RunCliCommand(const CCliOptions& options, std::ostream& out, std::ostream& err) {
-    CSession session(options, err);
+    CCliSession cli(options, err);
     const std::string& command = options.command;
     if (command == "tree") {
-        return Tree(session, options, out, err);
+        return Tree(cli, options, out, err);
     }
     if (command == "check") {
-        return Check(session, options, out, err);
+        return Check(cli, options, out, err);
     }
     if (command == "report") {
-        return Report(session, options, err);
+        return Report(cli, options, err);
     }
     if (command == "import") {
-        return Import(session, options, err);
-    }
-    if (int status = LoadTarget(session, options.files[0], err)) {
-        return status;
+        return Import(cli, options, err);
     }
     if (command == "new") {
-        return Written(err, session.document.m_writer.CreateDefault(options.files[1]));
+        if (int status = LoadTarget(cli, options.files[0], err)) {
+            return status;
+        }
+        return Written(err, CSession::WriteSkeleton(*cli.database, options.files[1]));
     }
     if (command == "target") {
-        return Written(err, session.database.Save(options.files[1]));
+        if (int status = LoadTarget(cli, options.files[0], err)) {
+            return status;
+        }
+        return Written(err, cli.database->Save(options.files[1]));
     }
     // save
-    if (session.document.LoadTree(options.files[1], session.tree) != RESULT_DONE) {
-        return CannotOpen(err, options.files[1]);
+    if (int status = LoadBoth(cli, options, err)) {
+        return status;
     }
-    if (int status = Written(err, session.document.Save(options.files[2], session.tree))) {
+    if (int status = Written(err, cli.session.SaveOobAs(options.files[2]))) {
         return status;
     }
     if (!options.targetOut.empty()) {
-        return Written(err, session.database.Save(options.targetOut));
+        return Written(err, cli.session.Database()->Save(options.targetOut));
     }
     return EXIT_DONE;
 }

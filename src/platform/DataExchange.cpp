@@ -188,7 +188,7 @@ void DDX_Control(CDataExchange* pDX, int id, CComboBox& control) {
     }
 }
 
-void DDX_Control(CDataExchange* pDX, int id, CTreeCtrl& control) {
+void DDX_Control(CDataExchange* pDX, int id, CTreeStore& control) {
     if (CWnd* wnd = pDX->PrepareCtrl(id)) {
         wnd->BindTree(control);
     }

@@ -56,7 +56,7 @@ void DDX_CBIndex(CDataExchange* pDX, int id, int& index);
 // Binds a member to its control, so the control shows the member's lines or entries.
 void DDX_Control(CDataExchange* pDX, int id, CListBox& control);
 void DDX_Control(CDataExchange* pDX, int id, CComboBox& control);
-void DDX_Control(CDataExchange* pDX, int id, CTreeCtrl& control);
+void DDX_Control(CDataExchange* pDX, int id, CTreeStore& control);
 
 // Each checks the field exchanged just before it.
 void DDV_MaxChars(CDataExchange* pDX, const std::string& value, int maxChars);

@@ -138,6 +138,15 @@ void CDialog::OnKillFocus(int editId, std::function<void()> handler) {
     m_handlers[{Event::KillFocus, editId}] = std::move(handler);
 }
 
+void CDialog::OnUpdateCommand(int id, std::function<bool()> enabled) {
+    m_updateHandlers[id] = std::move(enabled);
+}
+
+bool CDialog::IsCommandEnabled(int id) const {
+    auto found = m_updateHandlers.find(id);
+    return found == m_updateHandlers.end() || found->second();
+}
+
 void CDialog::OnSelChange(int listId, std::function<void()> handler) {
     m_handlers[{Event::SelChange, listId}] = std::move(handler);
 }
@@ -193,6 +202,9 @@ void CDialog::Dispatch(Event event, int id) {
 }
 
 void CDialog::DispatchCommand(int id) {
+    if (!IsCommandEnabled(id)) {
+        return;
+    }
     if (m_handlers.count({Event::Command, id}) != 0) {
         Dispatch(Event::Command, id);
     } else if (id == IDOK) {

@@ -59,6 +59,10 @@ public:
     // Shows the controls as they now are and repaints at once (RedrawWindow with update-now).
     void RedrawWindow();
 
+    // False for a menu command whose update handler says it is disabled: it is shown greyed
+    // and neither its entry nor its keys run it.
+    bool IsCommandEnabled(int id) const;
+
     const CDialogTemplate& Resource() const { return m_resource; }
     std::vector<std::unique_ptr<CWnd>>& Controls() { return m_controls; }
 
@@ -73,6 +77,9 @@ protected:
     // command with that id are the same event (OnClicked and OnCommand fill one table).
     void OnClicked(int id, std::function<void()> handler);
     void OnCommand(int id, std::function<void()> handler);
+    // Whether menu command id can be chosen now (asked whenever the menu or its keys may be
+    // used); a command without one always can.
+    void OnUpdateCommand(int id, std::function<bool()> enabled);
     void OnKillFocus(int editId, std::function<void()> handler);
     void OnSelChange(int listId, std::function<void()> handler);
     void OnTreeRightClick(int treeId, std::function<void()> handler);
@@ -97,6 +104,7 @@ private:
     std::vector<std::unique_ptr<CWnd>> m_controls;
     std::map<std::pair<Event, int>, std::function<void()>> m_handlers;
     std::map<int, std::function<bool(HTREEITEM, const std::string*)>> m_labelEditHandlers;
+    std::map<int, std::function<bool()>> m_updateHandlers;
     std::unique_ptr<CDialogWindow> m_pWindow;
     int m_nFocus = kNoFocus;
     int m_nResult = IDCANCEL;

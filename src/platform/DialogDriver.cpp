@@ -76,7 +76,9 @@ void CDialogDriver::TreeDoubleClick(int treeId) {
 bool CDialogDriver::TreeEndLabelEdit(int treeId, HTREEITEM entry, const std::string* text) {
     const bool keep = m_dialog.DispatchEndLabelEdit(treeId, entry, text);
     CWnd* control = m_dialog.GetDlgItem(treeId);
-    if (keep && text && control) {
+    // A handler that renamed the entry itself (the item whose name the label shows) leaves
+    // nothing to do: the store takes no second copy of the text.
+    if (keep && text && control && control->Tree().GetItemText(entry) != *text) {
         control->Tree().SetItemText(entry, *text);
     }
     return keep;

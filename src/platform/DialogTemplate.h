@@ -60,6 +60,8 @@ struct CMenuItem {
     std::string text{};
     int id = 0;
     std::vector<CMenuItem> popup{};
+    // Keys that run the command ("Ctrl+Z"); the first is shown beside the entry.
+    std::vector<std::string> keys{};
 
     bool IsSeparator() const { return id == 0 && popup.empty(); }
     bool IsPopup() const { return !popup.empty(); }

@@ -31,6 +31,9 @@ CMenuTemplate MakeMainMenu() {
     };
     CMenuItem edit{"&Edit", 0, {}};
     edit.popup = {
+        {"&Undo", ID_EDIT_UNDO, {}, {"Ctrl+Z"}},
+        {"&Redo", ID_EDIT_REDO, {}, {"Ctrl+Shift+Z", "Ctrl+Y"}},
+        kSeparator,
         {"&Properties", ID_EDIT_PROPERTIES},
         kSeparator,
         {"&Copy", ID_EDIT_COPY},

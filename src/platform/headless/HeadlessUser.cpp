@@ -160,6 +160,10 @@ void CHeadlessUser::Command(int id) {
                        std::to_string(m_dialog.Resource().id));
         return;
     }
+    if (!m_dialog.IsCommandEnabled(id)) {
+        m_backend.Fail("menu command " + std::to_string(id) + ": disabled");
+        return;
+    }
     m_driver.Command(id);
 }
 

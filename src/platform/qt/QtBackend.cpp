@@ -5,9 +5,11 @@
 #include <QMenu>
 #include <QMessageBox>
 
+#include "platform/Dialog.h"
 #include "platform/FileDialog.h"
 #include "platform/MessageBox.h"
 #include "platform/qt/QtDialogWindow.h"
+#include "platform/qt/QtMenus.h"
 #include "platform/qt/QtText.h"
 
 // A dialog window that the backend keeps track of while it lives.
@@ -111,14 +113,14 @@ bool CQtBackend::RunFileDialog(const CFileDialog& request, std::string& path) {
 }
 
 namespace {
-void FillMenu(QMenu& menu, const std::vector<CMenuItem>& items) {
+void FillMenu(QMenu& menu, const std::vector<CMenuItem>& items, const CDialog& owner) {
     for (const CMenuItem& item : items) {
         if (item.IsSeparator()) {
             menu.addSeparator();
         } else if (item.IsPopup()) {
-            FillMenu(*menu.addMenu(ToQString(item.text)), item.popup);
+            FillMenu(*menu.addMenu(ToQString(item.text)), item.popup, owner);
         } else {
-            menu.addAction(ToQString(item.text))->setData(item.id);
+            AddMenuCommand(menu, item)->setEnabled(owner.IsCommandEnabled(item.id));
         }
     }
 }
@@ -127,7 +129,7 @@ void FillMenu(QMenu& menu, const std::vector<CMenuItem>& items) {
 int CQtBackend::TrackPopupMenu(CDialog& owner, const CMenuItem& popup, CPoint screen) {
     SyncAll();
     QMenu menu(WindowOf(&owner));
-    FillMenu(menu, popup.popup);
+    FillMenu(menu, popup.popup, owner);
     QAction* chosen = menu.exec(QPoint(screen.x, screen.y));
     return chosen ? chosen->data().toInt() : 0;
 }

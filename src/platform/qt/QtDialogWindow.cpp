@@ -7,6 +7,7 @@
 
 #include "platform/Dialog.h"
 #include "platform/qt/QtControls.h"
+#include "platform/qt/QtMenus.h"
 #include "platform/qt/QtPaintDC.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/QtWidgets.h"
@@ -91,9 +92,11 @@ void CQtDialogWindow::BuildMenu(QMenu* menu, const std::vector<CMenuItem>& items
             BuildMenu(menu->addMenu(ToQString(item.text)), item.popup);
         } else {
             const int id = item.id;
-            QObject::connect(
-                menu->addAction(ToQString(item.text)), &QAction::triggered, m_pWindow,
-                [this, id] { Handle([id](CDialogDriver& driver) { driver.Command(id); }); });
+            QAction* action = AddMenuCommand(*menu, item);
+            m_menuCommands.push_back(action);
+            QObject::connect(action, &QAction::triggered, m_pWindow, [this, id] {
+                Handle([id](CDialogDriver& driver) { driver.Command(id); });
+            });
         }
     }
 }
@@ -120,6 +123,10 @@ void CQtDialogWindow::Handle(const std::function<void(CDialogDriver&)>& event) {
 void CQtDialogWindow::Sync() {
     for (auto& control : m_controls) {
         control->Sync();
+    }
+    // Kept current, not only when a menu opens: a disabled entry's keys do nothing.
+    for (QAction* action : m_menuCommands) {
+        action->setEnabled(m_dialog.IsCommandEnabled(action->data().toInt()));
     }
 }
 

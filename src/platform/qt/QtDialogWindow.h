@@ -16,6 +16,7 @@
 class CDialog;
 class CQtDialog;
 class CQtClientArea;
+class QAction;
 class QMenu;
 class QWidget;
 struct CMenuItem;
@@ -54,6 +55,7 @@ private:
     QPointer<CQtDialog> m_pWindow;
     CQtClientArea* m_pClient = nullptr;
     std::vector<std::unique_ptr<CQtControl>> m_controls;
+    std::vector<QAction*> m_menuCommands;  // the menu bar's command entries
     int m_nBaseX = 6;
     int m_nBaseY = 13;
     bool m_bMovingFocus = false;

@@ -1,5 +1,7 @@
 #include "platform/qt/QtTreeModel.h"
 
+#include <vector>
+
 #include "platform/qt/QtText.h"
 
 CQtTreeModel::CQtTreeModel(CTreeStore& store, bool editableLabels, QObject* parent)
@@ -75,8 +77,23 @@ void CQtTreeModel::BeforeInsert(HTREEITEM parent, std::size_t row) {
     beginInsertRows(IndexOf(parent), static_cast<int>(row), static_cast<int>(row));
 }
 
-void CQtTreeModel::AfterInsert(HTREEITEM) {
+// An entry put back with its subtree (an undone removal) brings its entries' expansion with it:
+// the view hears of every expanded one, so it shows the subtree as it was.
+void CQtTreeModel::AfterInsert(HTREEITEM entry) {
     endInsertRows();
+    if (onExpandChanged && entry->ChildCount() > 0) {
+        std::vector<HTREEITEM> pending{entry};
+        while (!pending.empty()) {
+            const HTREEITEM e = pending.back();
+            pending.pop_back();
+            if (e->Expanded()) {
+                onExpandChanged(e);
+            }
+            for (std::size_t i = 0; i < e->ChildCount(); ++i) {
+                pending.push_back(e->Child(i));
+            }
+        }
+    }
     ChangeDone();
 }
 
