@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "QtRun.h"
 #include "app/MainDlg.h"
 #include "dialogs/WorkspaceDlg.h"
 #include "model/Workspace.h"
@@ -26,21 +27,6 @@ namespace {
 std::string NameOf(QWidget* widget) {
     QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
     return accessible ? accessible->text(QAccessible::Name).toStdString() : std::string();
-}
-
-QWidget* WidgetOf(QWidget* window, int id) {
-    return window->findChild<QWidget*>(QString::number(id));
-}
-
-// Runs body on the dialog's window once it is up, then closes the dialog if the body did not.
-void RunShown(CDialog& dlg, const std::function<void(QWidget*)>& body) {
-    QTimer::singleShot(0, [&] {
-        body(QApplication::activeModalWidget());
-        if (dlg.IsRunning()) {
-            dlg.EndDialog(IDCANCEL);
-        }
-    });
-    dlg.DoModal();
 }
 
 bool Shows(const CWnd& control) {

@@ -11,9 +11,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QTreeView>
 
+#include "QtRun.h"
 #include "platform/qt/QtBackend.h"
 #include "ui/TestDialog.h"
 
@@ -40,25 +40,16 @@ protected:
         };
     }
 
-    // Runs body inside the dialog's modal loop once its window is up and active, then closes
-    // the dialog if the body did not.
     void Run(const std::function<void()>& body) {
-        QTimer::singleShot(0, [&] {
-            window = QApplication::activeModalWidget();
-            ASSERT_NE(window, nullptr);
-            window->activateWindow();
-            EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        RunShown(dlg, [&](QWidget* shown) {
+            window = shown;
             body();
-            if (dlg.IsRunning()) {
-                dlg.EndDialog(IDCANCEL);
-            }
         });
-        dlg.DoModal();
     }
 
     template <class W>
     W* Widget(int id) {
-        W* widget = window->findChild<W*>(QString::number(id));
+        W* widget = qobject_cast<W*>(WidgetOf(window, id));
         EXPECT_NE(widget, nullptr) << id;
         return widget;
     }
