@@ -4,14 +4,12 @@
 
 #include <QAccessible>
 #include <QAction>
-#include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <filesystem>
 
 #include "QtRun.h"
@@ -97,7 +95,7 @@ TEST(QtAccessibility, TheStatusFieldsReadWhatTheyShowAfterLoad) {
             QMetaObject::invokeMethod(chooser, "accept");
             return;
         } else if (top != nullptr && top->windowTitle() == "Workspace Properties") {
-            static_cast<QPushButton*>(WidgetOf(top, IDC_WS_ACCEPT))->click();
+            WidgetOf<QPushButton>(top, IDC_WS_ACCEPT)->click();
         } else {
             return;
         }
@@ -131,14 +129,14 @@ TEST(QtAccessibility, TextAnAssistiveToolSetsIsTakenByTheDialog) {
     workspace.m_strOobFile = workspace.m_strTargetFile = "empty";
     CWorkspaceDlg dlg(workspace);
     RunShown(dlg, [&](QWidget* window) {
-        auto* title = static_cast<QLineEdit*>(WidgetOf(window, IDC_WS_TITLE));
+        auto* title = WidgetOf<QLineEdit>(window, IDC_WS_TITLE);
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(title);
         ASSERT_NE(accessible->editableTextInterface(), nullptr);
         accessible->editableTextInterface()->replaceText(0, title->text().size(), "Dictated");
-        static_cast<QPushButton*>(WidgetOf(window, IDC_WS_RESET))->click();
+        WidgetOf<QPushButton>(window, IDC_WS_RESET)->click();
         EXPECT_EQ(title->text(), "Northern Marches");
         title->setText("Set from outside");
-        static_cast<QPushButton*>(WidgetOf(window, IDC_WS_ACCEPT))->click();
+        WidgetOf<QPushButton>(window, IDC_WS_ACCEPT)->click();
     });
     EXPECT_EQ(workspace.m_strTitle, "Set from outside");
 }

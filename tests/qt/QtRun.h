@@ -11,8 +11,9 @@
 
 #include "platform/Dialog.h"
 
-inline QWidget* WidgetOf(QWidget* window, int id) {
-    return window->findChild<QWidget*>(QString::number(id));
+template <class W = QWidget>
+W* WidgetOf(QWidget* window, int id) {
+    return window->findChild<W*>(QString::number(id));
 }
 
 inline void RunShown(CDialog& dlg, const std::function<void(QWidget*)>& body) {

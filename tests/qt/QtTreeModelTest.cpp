@@ -52,12 +52,4 @@ TEST(TreeModel, PassesQtsModelCheckerThroughEveryKindOfChange) {
     store.InsertItem("After the reset");
     EXPECT_EQ(model.rowCount(), 1);
 }
-
-TEST(TreeModel, TakesItselfOffTheStoreWhenDestroyed) {
-    CTreeStore store;
-    auto model = std::make_unique<CQtTreeModel>(store, false);
-    model.reset();
-    store.InsertItem("No one listens");  // no observer left behind to call
-    EXPECT_EQ(store.GetCount(), 1u);
-}
 }  // namespace
