@@ -22,8 +22,9 @@
 #include "ui/TestDialog.h"
 
 namespace {
-std::string NameOf(QWidget* widget) {
-    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+// What a screen reader hears for a control of the window.
+std::string NameOf(QWidget* window, int id) {
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(WidgetOf(window, id));
     return accessible ? accessible->text(QAccessible::Name).toStdString() : std::string();
 }
 
@@ -40,7 +41,7 @@ TEST(QtAccessibility, EveryFocusableControlIsNamedAndNamesFollowTheText) {
         RunShown(dlg, [&](QWidget* window) {
             for (auto& control : dlg.Controls()) {
                 if (control->TakesFocus()) {
-                    EXPECT_FALSE(NameOf(WidgetOf(window, control->GetDlgCtrlID())).empty())
+                    EXPECT_FALSE(NameOf(window, control->GetDlgCtrlID()).empty())
                         << "dialog " << id << " control " << control->GetDlgCtrlID();
                 }
                 if (Shows(*control)) {
@@ -51,15 +52,15 @@ TEST(QtAccessibility, EveryFocusableControlIsNamedAndNamesFollowTheText) {
             // A symbol-only button ("...") is named after its row too.
             for (auto& control : dlg.Controls()) {
                 if (Shows(*control) && control->GetDlgCtrlID() != -1) {
-                    EXPECT_TRUE(NameOf(WidgetOf(window, control->GetDlgCtrlID()))
+                    EXPECT_TRUE(NameOf(window, control->GetDlgCtrlID())
                                     .ends_with(control->GetWindowText()));
                 }
             }
             // A path is named after its row's check box, and follows it.
             if (id == IDD_WORKSPACE) {
-                EXPECT_EQ(NameOf(WidgetOf(window, IDC_WS_LEADER_FACES)),
+                EXPECT_EQ(NameOf(window, IDC_WS_LEADER_FACES),
                           "Now " + std::to_string(IDC_WS_LEADER_FACES_ON));
-                EXPECT_EQ(NameOf(WidgetOf(window, IDC_WS_OOB_PICK)),
+                EXPECT_EQ(NameOf(window, IDC_WS_OOB_PICK),
                           "Now -1 Now " + std::to_string(IDC_WS_OOB_PICK));
             }
         });
@@ -83,37 +84,31 @@ TEST(QtAccessibility, TheStatusFieldsReadWhatTheyShowAfterLoad) {
     QPointer<QWidget> last;
     QObject::connect(&answerer, &QTimer::timeout, [&] {
         QWidget* top = QApplication::activeModalWidget();
-        if (top == last) {
-            return;
-        }
-        if (auto* box = qobject_cast<QMessageBox*>(top)) {
-            box->button(QMessageBox::Yes)->click();
-        } else if (auto* chooser = qobject_cast<QFileDialog*>(top)) {
+        auto* box = qobject_cast<QMessageBox*>(top);
+        if (auto* chooser = qobject_cast<QFileDialog*>(top)) {
             // Typed, as a user types it; tried again until the chooser takes it.
             chooser->findChild<QLineEdit*>("fileNameEdit")
                 ->setText(folder.filePath("harnwick.txt"));
             QMetaObject::invokeMethod(chooser, "accept");
-            return;
-        } else if (top != nullptr && top->windowTitle() == "Workspace Properties") {
-            WidgetOf<QPushButton>(top, IDC_WS_ACCEPT)->click();
-        } else {
-            return;
+        } else if (top != last && (box || (top && top->windowTitle() == "Workspace Properties"))) {
+            box ? box->button(QMessageBox::Yes)->click()
+                : WidgetOf<QPushButton>(top, IDC_WS_ACCEPT)->click();
+            last = top;
+            ++answered;
         }
-        last = top;
-        ++answered;
     });
     answerer.start(10);
     CMainDlg dlg;
     RunShown(dlg, [&](QWidget* window) {
-        EXPECT_EQ(NameOf(WidgetOf(window, IDC_OOB_STATUS)), "-");
+        EXPECT_EQ(NameOf(window, IDC_OOB_STATUS), "-");
         for (QAction* action : window->findChildren<QAction*>()) {
             if (action->text() == "&Load") {
                 action->trigger();
             }
         }
         EXPECT_EQ(answered, 2);
-        EXPECT_EQ(NameOf(WidgetOf(window, IDC_OOB_STATUS)), " ");
-        EXPECT_EQ(NameOf(WidgetOf(window, IDC_BACKUP_STATUS)), "*");
+        EXPECT_EQ(NameOf(window, IDC_OOB_STATUS), " ");
+        EXPECT_EQ(NameOf(window, IDC_BACKUP_STATUS), "*");
     });
     std::filesystem::current_path(before);
 }
