@@ -126,34 +126,26 @@ TEST_F(ChoosersTest, AddListOffersTheTypesOfTheClassRangeUpToTheStopName) {
     }
 }
 
-TEST_F(ChoosersTest, AddListAcceptAndEnterGiveThePickedTypeAndCancelGivesNone) {
-    CAddListDlg dlg(database, 1, 3);
-    const std::pair<Script, std::string> cases[] = {
-        {[](CHeadlessUser& u) {
-             u.Pick(IDC_CHOICE_LIST, "Field guns");
-             u.Click(IDC_CHOICE_ACCEPT);
-         },
-         "Guns"},
-        {[](CHeadlessUser& u) {
-             u.Pick(IDC_CHOICE_LIST, 1);
-             u.Enter();
-         },
-         "Horse"},
-        {kCloseWithoutChoosing[0], ""},
-        {kCloseWithoutChoosing[1], ""},
-        {kCloseWithoutChoosing[2], ""},
+// "Add new list" gives the type picked with Accept or Enter; "Attached Order of Battles" gives
+// the selected line's index however it closes (the first line is selected when it opens);
+// "Select unit class" shows the whole line and gives infantry for Enter, Escape and the close box.
+TEST_F(ChoosersTest, ChoosersGiveTheirChoiceHoweverTheyClose) {
+    CAddListDlg addList(database, 1, 3);
+    const std::pair<std::string, Script> types[] = {
+        {"Guns",
+         [](CHeadlessUser& u) {
+             u.Pick(IDC_CHOICE_LIST, "Field guns"), u.Click(IDC_CHOICE_ACCEPT);
+         }},
+        {"Horse", [](CHeadlessUser& u) { u.Pick(IDC_CHOICE_LIST, 1), u.Enter(); }},
+        {"", kCloseWithoutChoosing[0]},
+        {"", kCloseWithoutChoosing[1]},
+        {"", kCloseWithoutChoosing[2]},
     };
-    for (const auto& [script, type] : cases) {
+    for (const auto& [type, script] : types) {
         ui.OnDialog(IDD_ADD_LIST, script);
-        EXPECT_EQ(dlg.DoModal(), type.empty() ? 0 : 1);
-        EXPECT_EQ(dlg.ChosenType() ? std::string(dlg.ChosenType()->m_strType) : "", type);
+        EXPECT_EQ(addList.DoModal(), type.empty() ? 0 : 1);
+        EXPECT_EQ(addList.ChosenType() ? std::string(addList.ChosenType()->m_strType) : "", type);
     }
-}
-
-// "Attached Order of Battles" gives the selected line's index however it closes (the first
-// line is selected when it opens); "Select unit class" shows the whole line and gives
-// infantry for Enter, Escape and the close box.
-TEST_F(ChoosersTest, AttachedAndUnitClassGiveTheirChoiceHoweverTheyClose) {
     const std::pair<int, Script> attached[] = {
         {0, [](CHeadlessUser& u) { u.Click(IDC_CHOICE_ACCEPT); }},
         {2, [](CHeadlessUser& u) { u.Pick(IDC_CHOICE_LIST, 2), u.Click(IDC_CHOICE_ACCEPT); }},

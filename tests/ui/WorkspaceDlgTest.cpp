@@ -36,22 +36,6 @@ protected:
     CWorkspaceDlg dlg;
 };
 
-TEST_F(WorkspaceDlgTest, ResetTakesEveryFieldBackFromTheWorkspace) {
-    ui.CancelFileDialog();
-    ui.AnswerFileDialog("/designs/other.bmp");
-    Run([](CHeadlessUser& user) {
-        user.Type(IDC_WS_TITLE, "Changed");
-        user.Click(IDC_WS_OOB_PICK);
-        user.Click(IDC_WS_LEADER_FACES_ON);
-        user.Click(IDC_WS_RESET);
-        EXPECT_EQ(user.Text(IDC_WS_TITLE), "Northern Marches");
-        EXPECT_EQ(user.Text(IDC_WS_OOB_FILE), "marches.oob");
-        EXPECT_EQ(user.Text(IDC_WS_LEADER_FACES), "empty");
-        EXPECT_EQ(user.Check(IDC_WS_LEADER_FACES_ON), 0);
-        user.Escape();
-    });
-}
-
 // Each picker opens in the opener's folder with its kind and extension, and writes the chosen
 // path or, cancelled, "empty". A picture switch turned on opens a picker at the path field's
 // text; turned off, or its picker cancelled, it is off with "empty". The workspace is untouched.
@@ -101,11 +85,22 @@ TEST_F(WorkspaceDlgTest, PickersAndPictureSwitchesWriteTheChosenPathOrEmpty) {
     EXPECT_EQ(workspace.m_strOobFile, "marches.oob");
 }
 
-// A title typed before a picker is kept through it.
-TEST_F(WorkspaceDlgTest, AcceptSavesEveryFieldToTheWorkspaceFile) {
+// Reset takes every field back from the workspace; a title typed before a picker is kept
+// through it; Accept saves every field to the workspace file.
+TEST_F(WorkspaceDlgTest, ResetThenAcceptSavesEveryFieldToTheWorkspaceFile) {
+    ui.CancelFileDialog();
+    ui.AnswerFileDialog("/designs/other.bmp");
     ui.AnswerFileDialog("/designs/art/leaders.bmp");
     ui.AnswerFileDialog("/designs/army.oob");
     const int result = Run([](CHeadlessUser& user) {
+        user.Type(IDC_WS_TITLE, "Changed");
+        user.Click(IDC_WS_OOB_PICK);
+        user.Click(IDC_WS_LEADER_FACES_ON);
+        user.Click(IDC_WS_RESET);
+        EXPECT_EQ(
+            user.Text(IDC_WS_TITLE) + user.Text(IDC_WS_OOB_FILE) + user.Text(IDC_WS_LEADER_FACES),
+            "Northern Marchesmarches.oobempty");
+        EXPECT_EQ(user.Check(IDC_WS_LEADER_FACES_ON), 0);
         user.Type(IDC_WS_TITLE, "Southern Marches");
         user.Click(IDC_WS_LEADER_FACES_ON);
         user.Click(IDC_WS_INFANTRY_ICONS_ON);
