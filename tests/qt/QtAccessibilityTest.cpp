@@ -4,16 +4,15 @@
 
 #include <QAccessible>
 #include <QAction>
-#include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <filesystem>
 
+#include "QtRun.h"
 #include "app/MainDlg.h"
 #include "dialogs/WorkspaceDlg.h"
 #include "model/Workspace.h"
@@ -23,24 +22,10 @@
 #include "ui/TestDialog.h"
 
 namespace {
-std::string NameOf(QWidget* widget) {
-    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+// What a screen reader hears for a control of the window.
+std::string NameOf(QWidget* window, int id) {
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(WidgetOf(window, id));
     return accessible ? accessible->text(QAccessible::Name).toStdString() : std::string();
-}
-
-QWidget* WidgetOf(QWidget* window, int id) {
-    return window->findChild<QWidget*>(QString::number(id));
-}
-
-// Runs body on the dialog's window once it is up, then closes the dialog if the body did not.
-void RunShown(CDialog& dlg, const std::function<void(QWidget*)>& body) {
-    QTimer::singleShot(0, [&] {
-        body(QApplication::activeModalWidget());
-        if (dlg.IsRunning()) {
-            dlg.EndDialog(IDCANCEL);
-        }
-    });
-    dlg.DoModal();
 }
 
 bool Shows(const CWnd& control) {
@@ -56,7 +41,7 @@ TEST(QtAccessibility, EveryFocusableControlIsNamedAndNamesFollowTheText) {
         RunShown(dlg, [&](QWidget* window) {
             for (auto& control : dlg.Controls()) {
                 if (control->TakesFocus()) {
-                    EXPECT_FALSE(NameOf(WidgetOf(window, control->GetDlgCtrlID())).empty())
+                    EXPECT_FALSE(NameOf(window, control->GetDlgCtrlID()).empty())
                         << "dialog " << id << " control " << control->GetDlgCtrlID();
                 }
                 if (Shows(*control)) {
@@ -67,15 +52,15 @@ TEST(QtAccessibility, EveryFocusableControlIsNamedAndNamesFollowTheText) {
             // A symbol-only button ("...") is named after its row too.
             for (auto& control : dlg.Controls()) {
                 if (Shows(*control) && control->GetDlgCtrlID() != -1) {
-                    EXPECT_TRUE(NameOf(WidgetOf(window, control->GetDlgCtrlID()))
+                    EXPECT_TRUE(NameOf(window, control->GetDlgCtrlID())
                                     .ends_with(control->GetWindowText()));
                 }
             }
             // A path is named after its row's check box, and follows it.
             if (id == IDD_WORKSPACE) {
-                EXPECT_EQ(NameOf(WidgetOf(window, IDC_WS_LEADER_FACES)),
+                EXPECT_EQ(NameOf(window, IDC_WS_LEADER_FACES),
                           "Now " + std::to_string(IDC_WS_LEADER_FACES_ON));
-                EXPECT_EQ(NameOf(WidgetOf(window, IDC_WS_OOB_PICK)),
+                EXPECT_EQ(NameOf(window, IDC_WS_OOB_PICK),
                           "Now -1 Now " + std::to_string(IDC_WS_OOB_PICK));
             }
         });
@@ -99,37 +84,31 @@ TEST(QtAccessibility, TheStatusFieldsReadWhatTheyShowAfterLoad) {
     QPointer<QWidget> last;
     QObject::connect(&answerer, &QTimer::timeout, [&] {
         QWidget* top = QApplication::activeModalWidget();
-        if (top == last) {
-            return;
-        }
-        if (auto* box = qobject_cast<QMessageBox*>(top)) {
-            box->button(QMessageBox::Yes)->click();
-        } else if (auto* chooser = qobject_cast<QFileDialog*>(top)) {
+        auto* box = qobject_cast<QMessageBox*>(top);
+        if (auto* chooser = qobject_cast<QFileDialog*>(top)) {
             // Typed, as a user types it; tried again until the chooser takes it.
             chooser->findChild<QLineEdit*>("fileNameEdit")
                 ->setText(folder.filePath("harnwick.txt"));
             QMetaObject::invokeMethod(chooser, "accept");
-            return;
-        } else if (top != nullptr && top->windowTitle() == "Workspace Properties") {
-            static_cast<QPushButton*>(WidgetOf(top, IDC_WS_ACCEPT))->click();
-        } else {
-            return;
+        } else if (top != last && (box || (top && top->windowTitle() == "Workspace Properties"))) {
+            box ? box->button(QMessageBox::Yes)->click()
+                : WidgetOf<QPushButton>(top, IDC_WS_ACCEPT)->click();
+            last = top;
+            ++answered;
         }
-        last = top;
-        ++answered;
     });
     answerer.start(10);
     CMainDlg dlg;
     RunShown(dlg, [&](QWidget* window) {
-        EXPECT_EQ(NameOf(WidgetOf(window, IDC_OOB_STATUS)), "-");
+        EXPECT_EQ(NameOf(window, IDC_OOB_STATUS), "-");
         for (QAction* action : window->findChildren<QAction*>()) {
             if (action->text() == "&Load") {
                 action->trigger();
             }
         }
         EXPECT_EQ(answered, 2);
-        EXPECT_EQ(NameOf(WidgetOf(window, IDC_OOB_STATUS)), " ");
-        EXPECT_EQ(NameOf(WidgetOf(window, IDC_BACKUP_STATUS)), "*");
+        EXPECT_EQ(NameOf(window, IDC_OOB_STATUS), " ");
+        EXPECT_EQ(NameOf(window, IDC_BACKUP_STATUS), "*");
     });
     std::filesystem::current_path(before);
 }
@@ -145,14 +124,14 @@ TEST(QtAccessibility, TextAnAssistiveToolSetsIsTakenByTheDialog) {
     workspace.m_strOobFile = workspace.m_strTargetFile = "empty";
     CWorkspaceDlg dlg(workspace);
     RunShown(dlg, [&](QWidget* window) {
-        auto* title = static_cast<QLineEdit*>(WidgetOf(window, IDC_WS_TITLE));
+        auto* title = WidgetOf<QLineEdit>(window, IDC_WS_TITLE);
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(title);
         ASSERT_NE(accessible->editableTextInterface(), nullptr);
         accessible->editableTextInterface()->replaceText(0, title->text().size(), "Dictated");
-        static_cast<QPushButton*>(WidgetOf(window, IDC_WS_RESET))->click();
+        WidgetOf<QPushButton>(window, IDC_WS_RESET)->click();
         EXPECT_EQ(title->text(), "Northern Marches");
         title->setText("Set from outside");
-        static_cast<QPushButton*>(WidgetOf(window, IDC_WS_ACCEPT))->click();
+        WidgetOf<QPushButton>(window, IDC_WS_ACCEPT)->click();
     });
     EXPECT_EQ(workspace.m_strTitle, "Set from outside");
 }

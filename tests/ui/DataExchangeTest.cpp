@@ -1,50 +1,52 @@
 // Taking and writing fields: the exchange order, the stop at the first failing field, the text
-// limits, and the ranges of unsigned and double fields.
+// limits, and what each kind of field reads as a number (rows in tests/data/ui/exchange.txt).
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 #include "HeadlessTest.h"
 #include "TestDialog.h"
 
 namespace {
 using K = ControlKind;
+using Values = std::vector<std::string>;
 
-const CDialogTemplate kFieldsDialog{
-    .id = 900,
-    .caption = "Fields",
-    .cx = 200,
-    .cy = 120,
-    .controls = {
-        {101, K::Edit, 10, 10, 80, 12},                    // name, at most 5 characters
-        {102, K::Edit, 10, 25, 80, 12, "", STYLE_DIGITS},  // strength, 0 to 100
-        {103, K::Edit, 10, 40, 80, 12},                    // factor, 0.5 to 2.5
-        {104, K::Edit, 10, 55, 80, 12, "", STYLE_DIGITS},  // quality, 1 to 6
-        {105, K::CheckBox, 10, 70, 80, 10, "Fanatic"},
-        {106, K::ComboBox, 10, 85, 80, 40},
-        {200, K::Button, 120, 10, 50, 14, "Accept"},
-    }};
+const CDialogTemplate kFieldsDialog{.id = 900,
+                                    .caption = "Fields",
+                                    .cx = 200,
+                                    .cy = 150,
+                                    .controls = {
+                                        {101, K::Edit, 10, 10, 80, 12},
+                                        {102, K::Edit, 10, 25, 80, 12, "", STYLE_DIGITS},
+                                        {103, K::Edit, 10, 40, 80, 12},
+                                        {104, K::Edit, 10, 55, 80, 12, "", STYLE_DIGITS},
+                                        {105, K::CheckBox, 10, 70, 80, 10, "Fanatic"},
+                                        {106, K::ComboBox, 10, 85, 80, 40},
+                                        {107, K::Edit, 10, 100, 80, 12},
+                                        {108, K::Edit, 10, 115, 80, 12},
+                                        {200, K::Button, 120, 10, 50, 14, "Accept"},
+                                    }};
+
+// The edits in exchange order, which is deliberately not the template's.
+const int kOrder[] = {104, 101, 102, 103, 107, 108};
 
 struct Fields {
+    unsigned quality = 3;
     std::string name = "abc";
     unsigned strength = 10;
     double factor = 1.5;
-    unsigned quality = 3;
+    unsigned count = 7;
+    double weight = 0.5;
     int fanatic = 0;
     int choice = 1;
-};
 
-// Exchanged deliberately out of template order: quality first.
-void Exchange(CDataExchange* pDX, Fields& f) {
-    DDX_Text(pDX, 104, f.quality);
-    DDV_MinMaxUInt(pDX, f.quality, 1, 6);
-    DDX_Text(pDX, 101, f.name);
-    DDV_MaxChars(pDX, f.name, 5);
-    DDX_Text(pDX, 102, f.strength);
-    DDV_MinMaxUInt(pDX, f.strength, 0, 100);
-    DDX_Text(pDX, 103, f.factor);
-    DDV_MinMaxDouble(pDX, f.factor, 0.5, 2.5);
-    DDX_Check(pDX, 105, f.fanatic);
-    DDX_CBIndex(pDX, 106, f.choice);
-}
+    Values Shown() const {
+        return {std::to_string(quality),  name,
+                std::to_string(strength), FormatDouble(factor),
+                std::to_string(count),    FormatDouble(weight),
+                std::to_string(fanatic),  std::to_string(choice)};
+    }
+};
 
 class DataExchangeTest : public HeadlessTest {
 protected:
@@ -54,7 +56,20 @@ protected:
                 d.GetDlgItem(106)->Lines().AddString(line);
             }
         };
-        dlg.exchange = [this](CDataExchange* pDX) { Exchange(pDX, fields); };
+        dlg.exchange = [this](CDataExchange* pDX) {
+            DDX_Text(pDX, 104, fields.quality);
+            DDV_MinMaxUInt(pDX, fields.quality, 1, 6);
+            DDX_Text(pDX, 101, fields.name);
+            DDV_MaxChars(pDX, fields.name, 5);
+            DDX_Text(pDX, 102, fields.strength);
+            DDV_MinMaxUInt(pDX, fields.strength, 0, 100);
+            DDX_Text(pDX, 103, fields.factor);
+            DDV_MinMaxDouble(pDX, fields.factor, 0.5, 2.5);
+            DDX_Text(pDX, 107, fields.count);
+            DDX_Text(pDX, 108, fields.weight);
+            DDX_Check(pDX, 105, fields.fanatic);
+            DDX_CBIndex(pDX, 106, fields.choice);
+        };
     }
 
     // Runs the dialog with script, then closes it.
@@ -72,11 +87,11 @@ protected:
 
 // Writing shows the values and limits the text edits; typing keeps to the limit and the digits.
 TEST_F(DataExchangeTest, WritingShowsTheFieldsAndLimitsTheEdits) {
-    fields.factor = 0.25;
+    fields.factor = 1e20;
     Run([&](CHeadlessUser& user) {
         EXPECT_EQ(
-            user.Text(101) + " " + user.Text(102) + " " + user.Text(103) + " " + user.Text(104),
-            "abc 10 0.25 3");
+            user.Text(104) + " " + user.Text(101) + " " + user.Text(102) + " " + user.Text(103),
+            "3 abc 10 1e+20");
         EXPECT_EQ(user.Lines(106).GetCurSel(), 1);
         user.Type(101, "Brigade");
         user.Type(102, "1x2-5");
@@ -84,73 +99,45 @@ TEST_F(DataExchangeTest, WritingShowsTheFieldsAndLimitsTheEdits) {
     });
 }
 
-// Valid fields are all taken. Each failing check stops the exchange there: the fields before it
-// are taken, it and the ones after it keep their values, and it gets the focus.
+// The fields before a failing one are taken, it and the ones after it keep their values, and it
+// gets the focus back; a row that passes takes every field.
 TEST_F(DataExchangeTest, AFailingFieldStopsTheExchangeThere) {
-    const std::string whole = "Please enter a whole number from ";
-    const struct {
-        int id;  // 0: every field valid
-        const char* text;
-        std::string message;
-        int takenBefore;  // fields taken, in exchange order, before the failing one
-    } cases[] = {
-        {0, "", "", 6},
-        {104, "0", whole + "1 to 6.", 0},
-        {104, "", whole + "1 to 6.", 0},
-        {101, "Brigade", "Please enter at most 5 characters.", 1},
-        {102, "101", whole + "0 to 100.", 2},
-        {102, "4294967296", whole + "0 to 100.", 2},
-        {103, "2.6", "Please enter a number from 0.5 to 2.5.", 3},
-        {103, "inf", "Please enter a number from 0.5 to 2.5.", 3},
-    };
-    const Fields old;
-    for (const auto& c : cases) {
-        fields = old;
-        if (c.id != 0) {
-            ui.AnswerMessage(c.message, IDOK);
+    const Values old = Fields().Shown();
+    const Values typed = {"5", "xyz", "20", "2.25", "8", "-1.25", "1", "0"};
+    std::ifstream rows(HW_TEST_DATA "/ui/exchange.txt");
+    ASSERT_TRUE(rows);
+    std::string row;
+    while (std::getline(rows, row)) {
+        if (row.empty() || row[0] == '#') {
+            continue;
         }
+        const std::size_t bar = row.find('|'), last = row.rfind('|');
+        const int id = std::stoi(row.substr(0, bar));
+        const std::string text = row.substr(bar + 1, last - bar - 1),
+                          expected = row.substr(last + 1);
+        const bool fails = expected.starts_with("Please");
+        if (fails) {
+            ui.AnswerMessage(expected, IDOK);
+        }
+        fields = Fields();
         Run([&](CHeadlessUser& user) {
-            user.Type(104, "5");
-            user.Type(101, "xyz");
-            user.Type(102, "20");
-            user.Type(103, " 2.25 ");
+            for (std::size_t i = 0; i < std::size(kOrder); ++i) {
+                user.Type(kOrder[i], typed[i]);
+            }
             user.Click(105);
             user.Pick(106, 0);
-            if (c.id != 0) {
-                // Set as pasted text would be, past what typing allows.
-                dlg.GetDlgItem(c.id)->SetWindowText(c.text);
-            }
-            EXPECT_EQ(dlg.UpdateData(true), c.id == 0);
-            EXPECT_EQ(user.FocusId(), c.id == 0 ? 106 : c.id);
+            dlg.GetDlgItem(id)->SetWindowText(text);
+            EXPECT_EQ(dlg.UpdateData(true), !fails) << row;
+            EXPECT_EQ(user.FocusId(), fails ? id : 106) << row;
         });
-        EXPECT_EQ(fields.quality, c.takenBefore > 0 ? 5u : old.quality) << c.text;
-        EXPECT_EQ(fields.name, c.takenBefore > 1 ? "xyz" : old.name) << c.text;
-        EXPECT_EQ(fields.strength, c.takenBefore > 2 ? 20u : old.strength) << c.text;
-        EXPECT_EQ(fields.factor, c.takenBefore > 3 ? 2.25 : old.factor) << c.text;
-        EXPECT_EQ(fields.fanatic + 10 * fields.choice, c.takenBefore > 3 ? 1 : 10) << c.text;
+        const auto at = std::find(std::begin(kOrder), std::end(kOrder), id) - std::begin(kOrder);
+        Values want = typed;
+        want[at] = expected;
+        if (fails) {
+            std::copy(old.begin() + at, old.end(), want.begin() + at);
+        }
+        EXPECT_EQ(fields.Shown(), want) << row;
     }
-}
-
-TEST_F(DataExchangeTest, ANumberWithoutARangeCheckIsStillRefusedWhenItIsNoNumber) {
-    unsigned whole = 7;
-    double real = 0.5;
-    dlg.exchange = [&](CDataExchange* pDX) {
-        DDX_Text(pDX, 102, whole);
-        DDX_Text(pDX, 103, real);
-    };
-    ui.AnswerMessage("Please enter a whole number.", IDOK);
-    ui.AnswerMessage("Please enter a number.", IDOK);
-    Run([&](CHeadlessUser& user) {
-        dlg.GetDlgItem(102)->SetWindowText("");
-        EXPECT_FALSE(dlg.UpdateData(true));
-        EXPECT_EQ(user.FocusId(), 102);
-        dlg.GetDlgItem(102)->SetWindowText("8");
-        dlg.GetDlgItem(103)->SetWindowText("x");
-        EXPECT_FALSE(dlg.UpdateData(true));
-        EXPECT_EQ(user.FocusId(), 103);
-    });
-    EXPECT_EQ(whole, 8u);
-    EXPECT_EQ(real, 0.5);
 }
 
 // The focus-lost handler that takes the fields runs when the user clicks elsewhere; a failed
@@ -172,20 +159,5 @@ TEST_F(DataExchangeTest, AFailedCheckOnFocusLostKeepsTheFocusAndLosesTheClick) {
     });
     EXPECT_EQ(dlg.log, (std::vector<std::string>{"kill 102", "kill 102", "click 200", "OnCancel"}));
     EXPECT_EQ(fields.strength, 50u);
-}
-
-TEST(NumberText, ReadsAndWritesAsTheFieldsShowThem) {
-    unsigned u = 0;
-    double d = 0;
-    EXPECT_TRUE(ParseUnsigned(" 4294967295 ", u) && u == 4294967295u);
-    EXPECT_TRUE(ParseDouble("+1.5e2", d) && d == 150.0);
-    EXPECT_TRUE(ParseDouble("-.5", d) && d == -0.5);
-    for (const char* bad : {"", " ", "+1", "1 2", "0x10", "12a"}) {
-        EXPECT_FALSE(ParseUnsigned(bad, u)) << bad;
-    }
-    for (const char* bad : {"", "nan", "1.5.2", "1e999", "--1"}) {
-        EXPECT_FALSE(ParseDouble(bad, d)) << bad;
-    }
-    EXPECT_EQ(FormatDouble(1e20), "1e+20");
 }
 }  // namespace

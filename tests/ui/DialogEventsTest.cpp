@@ -38,8 +38,11 @@ protected:
 
 // Enter presses the focused button, else the default one (hidden here; it moves the focus) and
 // its handler sees Shift; never a disabled button, focused or default. A disabled or hidden
-// control takes no focus.
-TEST_F(DialogEventsTest, EnterPressesTheFocusedOrDefaultButtonButNeverADisabledOne) {
+// control takes no focus. A check box toggles and a list selects before its handler runs, each
+// after the focus it took was lost; a notifying static reports clicks and takes no focus. A
+// right click leaves the tree's selection, a double click selects and expands or collapses, and
+// a label edit keeps the text only when the handler accepts it.
+TEST_F(DialogEventsTest, UserActionsReachTheirHandlersInOrder) {
     dlg.init = [shared = dlg.init](CTestDialog& d) {
         shared(d);
         d.GetDlgItem(101)->EnableWindow(false);
@@ -60,32 +63,6 @@ TEST_F(DialogEventsTest, EnterPressesTheFocusedOrDefaultButtonButNeverADisabledO
                   user.Enter();
                   dlg.GetDlgItem(1000)->EnableWindow(false);
                   user.Enter();
-              }),
-              (Log{"shift", "kill 102", "click 200", "no shift", "OnCancel"}));
-}
-
-// Without a default button Enter is OK; a dialog without a close box refuses it.
-TEST_F(DialogEventsTest, EnterEscapeAndTheCloseBox) {
-    ui.OnDialog(901, [](CHeadlessUser& user) { user.CloseBox(); });
-    EXPECT_EQ(dlg.DoModal(), IDCANCEL);
-    CTestDialog plain(kPlainDialog);
-    ui.OnDialog(902, [](CHeadlessUser& user) { user.Enter(); });
-    EXPECT_EQ(plain.DoModal(), IDOK);
-    EXPECT_EQ(dlg.log, Log{"OnCancel"});
-    EXPECT_EQ(plain.log, Log{"OnOK"});
-    CollectFailures();
-    ui.OnDialog(902, [](CHeadlessUser& user) {
-        user.CloseBox();
-        user.Escape();
-    });
-    EXPECT_EQ(plain.DoModal(), IDCANCEL);
-    EXPECT_EQ(collected, Log{"close box of dialog 902: it has none"});
-}
-
-// A check box toggles and a list selects before its handler runs, each after the focus it took
-// was lost; a notifying static reports clicks and takes no focus.
-TEST_F(DialogEventsTest, HandlersSeeTheNewCheckAndSelectionAndStaticsReportClicks) {
-    EXPECT_EQ(Run([](CHeadlessUser& user) {
                   user.Click(103);
                   user.Click(103);
                   user.Click(105);
@@ -93,9 +70,24 @@ TEST_F(DialogEventsTest, HandlersSeeTheNewCheckAndSelectionAndStaticsReportClick
                   user.Type(102, "1");
                   user.Pick(104, "Artillery");
                   user.Pick(104, 0);
+                  CTreeStore& tree = dlg.GetDlgItem(107)->Tree();
+                  user.SelectEntry(107, dlg.army);
+                  user.RightClick(107);
+                  EXPECT_EQ(tree.GetSelectedItem(), dlg.army);
+                  user.DoubleClick(107, dlg.corps);
+                  EXPECT_EQ(tree.GetSelectedItem(), dlg.corps);
+                  EXPECT_TRUE(dlg.corps->Expanded());
+                  user.DoubleClick(107, dlg.corps);
+                  EXPECT_FALSE(dlg.corps->Expanded());
+                  EXPECT_TRUE(user.EditLabel(107, dlg.corps, std::string("II Corps")));
+                  EXPECT_FALSE(user.EditLabel(107, dlg.corps, std::string("Refused")));
+                  EXPECT_FALSE(user.EditLabel(107, dlg.corps, std::nullopt));
+                  EXPECT_EQ(dlg.corps->Label(), "II Corps");
               }),
-              (Log{"kill 101", "check 1", "check 0", "click 105", "kill 102", "select 2",
-                   "select 0", "OnCancel"}));
+              (Log{"shift", "kill 102", "click 200", "no shift", "check 1", "check 0", "click 105",
+                   "kill 102", "select 2", "select 0", "right click", "double click",
+                   "double click", "end edit Corps -> II Corps", "end edit II Corps -> Refused",
+                   "end edit II Corps cancelled", "OnCancel"}));
 }
 
 TEST_F(DialogEventsTest, TheUserCannotReachHiddenDisabledOrSilentControls) {
@@ -121,32 +113,22 @@ TEST_F(DialogEventsTest, TheUserCannotReachHiddenDisabledOrSilentControls) {
                          }));
 }
 
-// A right click leaves the selection, a double click selects and expands or collapses, and a
-// label edit keeps the text only when the handler accepts it.
-TEST_F(DialogEventsTest, TheTreesGesturesReachTheirHandlers) {
-    EXPECT_EQ(Run([this](CHeadlessUser& user) {
-                  CTreeStore& tree = dlg.GetDlgItem(107)->Tree();
-                  user.SelectEntry(107, dlg.army);
-                  user.RightClick(107);
-                  EXPECT_EQ(tree.GetSelectedItem(), dlg.army);
-                  user.DoubleClick(107, dlg.corps);
-                  EXPECT_EQ(tree.GetSelectedItem(), dlg.corps);
-                  EXPECT_TRUE(dlg.corps->Expanded());
-                  user.DoubleClick(107, dlg.corps);
-                  EXPECT_FALSE(dlg.corps->Expanded());
-                  EXPECT_TRUE(user.EditLabel(107, dlg.corps, std::string("II Corps")));
-                  EXPECT_FALSE(user.EditLabel(107, dlg.corps, std::string("Refused")));
-                  EXPECT_FALSE(user.EditLabel(107, dlg.corps, std::nullopt));
-                  EXPECT_EQ(dlg.corps->Label(), "II Corps");
-              }),
-              (Log{"kill 101", "right click", "double click", "double click",
-                   "end edit Corps -> II Corps", "end edit II Corps -> Refused",
-                   "end edit II Corps cancelled", "OnCancel"}));
-}
-
-TEST_F(DialogEventsTest, WhatTheTestDidNotScriptFailsNamingWhatItShowed) {
-    CollectFailures();
+// Escape and the close box are Cancel; without a default button Enter is OK; a dialog without a
+// close box refuses it. What the test did not script fails, naming what the program showed.
+TEST_F(DialogEventsTest, CloseBoxEnterAndWhatTheTestDidNotScript) {
+    ui.OnDialog(901, [](CHeadlessUser& user) { user.CloseBox(); });
+    EXPECT_EQ(dlg.DoModal(), IDCANCEL);
     CTestDialog plain(kPlainDialog);
+    ui.OnDialog(902, [](CHeadlessUser& user) { user.Enter(); });
+    EXPECT_EQ(plain.DoModal(), IDOK);
+    EXPECT_EQ(dlg.log, Log{"OnCancel"});
+    EXPECT_EQ(plain.log, Log{"OnOK"});
+    CollectFailures();
+    ui.OnDialog(902, [](CHeadlessUser& user) {
+        user.CloseBox();
+        user.Escape();
+    });
+    EXPECT_EQ(plain.DoModal(), IDCANCEL);
     EXPECT_EQ(plain.DoModal(), IDCANCEL);
     ui.AnswerMessage("Do you want to quit?", IDYES);
     ui.OnDialog(901, [](CHeadlessUser& user) {
@@ -161,6 +143,7 @@ TEST_F(DialogEventsTest, WhatTheTestDidNotScriptFailsNamingWhatItShowed) {
     ui.CheckAllUsed();
     EXPECT_EQ(collected,
               (Log{
+                  "close box of dialog 902: it has none",
                   "dialog 902 \"Plain\" opened without a script",
                   "message box showed \"Quit?\", the test expected \"Do you want to quit?\"",
                   "message box not scripted: \"Do you want to quit?\" (caption \"Exit\")",

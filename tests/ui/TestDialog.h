@@ -14,11 +14,10 @@ public:
     explicit CTestDialog(const CDialogTemplate& resource) : CDialog(resource) {}
 
     // Runs first when the dialog opens (fills lists, say).
-    std::function<void(CTestDialog&)> init;
-    // The exchange the dialog runs; none by default.
-    std::function<void(CDataExchange*)> exchange;
-    // Paints the client area; nothing by default.
-    std::function<void(CPaintDC&)> paint;
+    std::function<void(CTestDialog&)> init = [](CTestDialog&) {};
+    // The exchange the dialog runs, and what it paints; nothing by default.
+    std::function<void(CDataExchange*)> exchange = [](CDataExchange*) {};
+    std::function<void(CPaintDC&)> paint = [](CPaintDC&) {};
     // What happened, in order ("kill 101", "click 200", ...).
     std::vector<std::string> log;
 
@@ -33,21 +32,11 @@ public:
 
 protected:
     bool OnInitDialog() override {
-        if (init) {
-            init(*this);
-        }
+        init(*this);
         return CDialog::OnInitDialog();
     }
-    void DoDataExchange(CDataExchange* pDX) override {
-        if (exchange) {
-            exchange(pDX);
-        }
-    }
-    void OnPaint(CPaintDC& dc) override {
-        if (paint) {
-            paint(dc);
-        }
-    }
+    void DoDataExchange(CDataExchange* pDX) override { exchange(pDX); }
+    void OnPaint(CPaintDC& dc) override { paint(dc); }
     void OnOK() override {
         Log("OnOK");
         CDialog::OnOK();

@@ -36,95 +36,71 @@ protected:
     CWorkspaceDlg dlg;
 };
 
-TEST_F(WorkspaceDlgTest, ResetTakesEveryFieldBackFromTheWorkspace) {
-    ui.CancelFileDialog();
-    ui.AnswerFileDialog("/designs/other.bmp");
-    Run([](CHeadlessUser& user) {
-        user.Type(IDC_WS_TITLE, "Changed");
-        user.Click(IDC_WS_OOB_PICK);
-        user.Click(IDC_WS_LEADER_FACES_ON);
-        user.Click(IDC_WS_RESET);
-        EXPECT_EQ(user.Text(IDC_WS_TITLE), "Northern Marches");
-        EXPECT_EQ(user.Text(IDC_WS_OOB_FILE), "marches.oob");
-        EXPECT_EQ(user.Text(IDC_WS_LEADER_FACES), "empty");
-        EXPECT_EQ(user.Check(IDC_WS_LEADER_FACES_ON), 0);
-        user.Escape();
-    });
-}
-
-// Each picker opens in the opener's folder with its kind and extension; OK writes the chosen
-// path, a cancel writes "empty", and the workspace is untouched until Accept.
-TEST_F(WorkspaceDlgTest, PickersWriteTheChosenPathOrEmpty) {
+// Each picker opens in the opener's folder with its kind and extension, and writes the chosen
+// path or, cancelled, "empty". A picture switch turned on opens a picker at the path field's
+// text; turned off, or its picker cancelled, it is off with "empty". The workspace is untouched.
+TEST_F(WorkspaceDlgTest, PickersAndPictureSwitchesWriteTheChosenPathOrEmpty) {
     const struct {
         int button, field, openMode;
         bool open;
-        const char* defExt;
+        const char *ext, *pattern;  // a picture's pattern is its file
     } cases[] = {
-        {IDC_WS_OOB_PICK, IDC_WS_OOB_FILE, 0, false, "oob"},
-        {IDC_WS_OOB_PICK, IDC_WS_OOB_FILE, 1, true, "oob"},
-        {IDC_WS_BACKUP_PICK, IDC_WS_BACKUP_FILE, 1, false, "oob"},
-        {IDC_WS_TARGET_PICK, IDC_WS_TARGET_FILE, 0, true, "inf"},
-    };
-    for (const auto& c : cases) {
-        dlg.m_nOpenMode = static_cast<std::uint16_t>(c.openMode);
-        ui.AnswerFileDialog("/designs/chosen");
-        ui.CancelFileDialog();
-        Run([&c](CHeadlessUser& user) {
-            user.Click(c.button);
-            EXPECT_EQ(user.Text(c.field), std::string("/designs/chosen.") + c.defExt);
-            user.Click(c.button);
-            EXPECT_EQ(user.Text(c.field), "empty");
-            user.Click(IDC_WS_CANCEL);
-        });
-        const CShownFileDialog& shown = ui.FileDialogs().back();
-        EXPECT_EQ(shown.open, c.open) << c.button;
-        EXPECT_EQ(shown.defaultExtension, c.defExt);
-        EXPECT_EQ(shown.initialDir, "/designs");
-    }
-    EXPECT_EQ(workspace.m_strOobFile, "marches.oob");
-}
-
-// On: an open picker for the picture file, starting at the path field's text; a cancel turns
-// the switch off again and writes "empty". Off: the path becomes "empty".
-TEST_F(WorkspaceDlgTest, PictureSwitchesAskForTheFileAndForgetIt) {
-    const struct {
-        int checkBox, field;
-        const char* file;
-    } cases[] = {
-        {IDC_WS_UNIT_PICTURES_ON, IDC_WS_UNIT_PICTURES, "units.bmp"},
-        {IDC_WS_LEADER_FACES_ON, IDC_WS_LEADER_FACES, "leaders.bmp"},
-        {IDC_WS_INFANTRY_ICONS_ON, IDC_WS_INFANTRY_ICONS, "icons3d2.bmp"},
-        {IDC_WS_CAVALRY_ICONS_ON, IDC_WS_CAVALRY_ICONS, "icons3d1.bmp"},
-        {IDC_WS_ARTILLERY_ICONS_ON, IDC_WS_ARTILLERY_ICONS, "icons3d0.bmp"},
+        {IDC_WS_OOB_PICK, IDC_WS_OOB_FILE, 0, false, "oob", "*.oob"},
+        {IDC_WS_OOB_PICK, IDC_WS_OOB_FILE, 1, true, "oob", "*.oob"},
+        {IDC_WS_BACKUP_PICK, IDC_WS_BACKUP_FILE, 1, false, "oob", "*.oob"},
+        {IDC_WS_TARGET_PICK, IDC_WS_TARGET_FILE, 0, true, "inf", "*.inf"},
+        {IDC_WS_UNIT_PICTURES_ON, IDC_WS_UNIT_PICTURES, 0, true, "bmp", "units.bmp"},
+        {IDC_WS_LEADER_FACES_ON, IDC_WS_LEADER_FACES, 0, true, "bmp", "leaders.bmp"},
+        {IDC_WS_INFANTRY_ICONS_ON, IDC_WS_INFANTRY_ICONS, 0, true, "bmp", "icons3d2.bmp"},
+        {IDC_WS_CAVALRY_ICONS_ON, IDC_WS_CAVALRY_ICONS, 0, true, "bmp", "icons3d1.bmp"},
+        {IDC_WS_ARTILLERY_ICONS_ON, IDC_WS_ARTILLERY_ICONS, 0, true, "bmp", "icons3d0.bmp"},
     };
     workspace.m_nPictureFlags.fill(0);
     workspace.m_strPicturePaths.fill("art/old.bmp");
     for (const auto& c : cases) {
-        const std::string chosen = std::string("/designs/art/") + c.file;
-        ui.AnswerFileDialog(chosen);
+        const bool picture = *c.pattern != '*';
+        const std::size_t shown = ui.FileDialogs().size();
+        dlg.m_nOpenMode = static_cast<std::uint16_t>(c.openMode);
+        ui.AnswerFileDialog("/designs/chosen");
         ui.CancelFileDialog();
         Run([&](CHeadlessUser& user) {
-            user.Click(c.checkBox);
-            EXPECT_EQ(user.Text(c.field), chosen);
-            user.Click(c.checkBox);
+            user.Click(c.button);
+            EXPECT_EQ(user.Text(c.field), "/designs/chosen." + std::string(c.ext)) << c.pattern;
+            user.Click(c.button);
             EXPECT_EQ(user.Text(c.field), "empty");
-            user.Click(c.checkBox);
-            EXPECT_EQ(user.Check(c.checkBox), 0);
-            EXPECT_EQ(user.Text(c.field), "empty");
+            if (picture) {
+                user.Click(c.button);
+                EXPECT_EQ(user.Check(c.button), 0);
+                EXPECT_EQ(user.Text(c.field), "empty");
+            }
             user.Click(IDC_WS_CANCEL);
         });
-        const auto& shown = ui.FileDialogs();
-        EXPECT_EQ(shown[shown.size() - 2].initialDir, "art/old.bmp");
-        EXPECT_EQ(shown[shown.size() - 2].filters.at(0).pattern, c.file);
-        EXPECT_EQ(shown.back().initialDir, "empty");
+        const CShownFileDialog& chooser = ui.FileDialogs().at(shown);
+        EXPECT_EQ(chooser.open, c.open) << c.pattern;
+        EXPECT_EQ(chooser.defaultExtension, c.ext);
+        EXPECT_EQ(chooser.initialDir, picture ? "art/old.bmp" : "/designs");
+        EXPECT_EQ(chooser.filters.at(0).pattern, c.pattern);
+        EXPECT_EQ(ui.FileDialogs().back().initialDir, picture ? "empty" : "/designs");
     }
+    EXPECT_EQ(workspace.m_strOobFile, "marches.oob");
 }
 
-// A title typed before a picker is kept through it.
-TEST_F(WorkspaceDlgTest, AcceptSavesEveryFieldToTheWorkspaceFile) {
+// Reset takes every field back from the workspace; a title typed before a picker is kept
+// through it; Accept saves every field to the workspace file.
+TEST_F(WorkspaceDlgTest, ResetThenAcceptSavesEveryFieldToTheWorkspaceFile) {
+    ui.CancelFileDialog();
+    ui.AnswerFileDialog("/designs/other.bmp");
     ui.AnswerFileDialog("/designs/art/leaders.bmp");
     ui.AnswerFileDialog("/designs/army.oob");
     const int result = Run([](CHeadlessUser& user) {
+        user.Type(IDC_WS_TITLE, "Changed");
+        user.Click(IDC_WS_OOB_PICK);
+        user.Click(IDC_WS_LEADER_FACES_ON);
+        user.Click(IDC_WS_RESET);
+        EXPECT_EQ(
+            user.Text(IDC_WS_TITLE) + user.Text(IDC_WS_OOB_FILE) + user.Text(IDC_WS_LEADER_FACES),
+            "Northern Marchesmarches.oobempty");
+        EXPECT_EQ(user.Check(IDC_WS_LEADER_FACES_ON), 0);
         user.Type(IDC_WS_TITLE, "Southern Marches");
         user.Click(IDC_WS_LEADER_FACES_ON);
         user.Click(IDC_WS_INFANTRY_ICONS_ON);
