@@ -37,11 +37,11 @@ struct COutcome {
 };
 
 struct CReader {
-    std::function<COutcome(const std::string& input, const std::string& option)> read;
+    std::function<COutcome(const std::string& input, const CCase& c)> read;
     bool readsBack;  // what it writes reads back as the same outcome
 };
 
-COutcome ReadOob(const std::string& text, const std::string&) {
+COutcome ReadOob(const std::string& text, const CCase&) {
     CTempFolder folder;
     WriteBytes(folder / "in.oob", text);
     CGameDatabase db;
@@ -53,7 +53,7 @@ COutcome ReadOob(const std::string& text, const std::string&) {
 }
 
 // Inserts block number option of the input under an army P that holds one unit W.
-COutcome InsertTemplate(const std::string& text, const std::string& option) {
+COutcome InsertTemplate(const std::string& text, const CCase& c) {
     CTempFolder folder;
     WriteBytes(folder / "army.oob", "3\nA P\n\tBegin\n\tU 1 1 Foot Musket 0 0 W\n");
     WriteBytes(folder / "in.tpl", text);
@@ -63,13 +63,13 @@ COutcome InsertTemplate(const std::string& text, const std::string& option) {
     CTreeStore tree;
     EXPECT_EQ(doc.LoadTree(folder / "army.oob", tree), RESULT_DONE);
     EXPECT_EQ(doc.m_reader.InsertTemplate(folder / "in.tpl", tree, tree.GetRootItem(), TVI_LAST,
-                                          std::stoi(option)),
+                                          std::stoi(c.option)),
               RESULT_DONE);
     return {Shape(tree), doc.m_writer.ToText(tree)};
 }
 
 // Kinds, base types, types, weapons, attached orders of battle and templates read.
-COutcome ReadTarget(const std::string& text, const std::string&) {
+COutcome ReadTarget(const std::string& text, const CCase&) {
     CGameDatabase db;
     std::istringstream in(text);
     db.ReadFrom(in);
@@ -82,31 +82,35 @@ COutcome ReadTarget(const std::string& text, const std::string&) {
             db.ToText()};
 }
 
-COutcome ReadWorkspace(const std::string& text, const std::string&) {
+COutcome ReadWorkspace(const std::string& text, const CCase&) {
     CWorkspace w;
     std::istringstream in(text);
     w.ReadFrom(in);
     return {Fields(w), ""};
 }
 
-// Imports the input as a game file into the tree below, the option naming what happens to the
-// entries it misses; the tree and the strength or supply of every unit and supply left.
-COutcome Import(const std::string& text, const std::string& option) {
+// Imports the input as a game file into the case's tree or the one below, the option naming
+// what happens to the entries it misses; the tree and the strength or supply of every unit and
+// supply left.
+COutcome Import(const std::string& text, const CCase& c) {
     const std::map<std::string, int> flags = {
         {"keep", 0},
         {"zero", IMPORT_ZERO_MISSING},
         {"remove", IMPORT_REMOVE_MISSING},
-        {"remove empty", IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY}};
+        {"remove empty", IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY},
+        {"empty only", IMPORT_REMOVE_EMPTY}};
     // 1 North: 1.1 Chief, 1.2 First (1.2.1 Line 8, 1.2.2 Guns 6, 1.2.3 Wagons 9);
     // 2 South: 2.1 Staff (2.1.1 Aide, 2.1.2 Foot 5).
     CReportWorld world;
-    world.Build({"A North", "Begin", "L 4 3 0 Chief", "C First", "Begin",
-                 "U 8 2 Fus Musket 0 0 Line", "U 6 2 Gun Cannon 0 0 Guns", "S 9 0 Wagons", "End",
-                 "End", "A South", "Begin", "C Staff", "Begin", "L 4 3 0 Aide",
-                 "U 5 2 Fus Musket 0 0 Foot"});
+    world.Build(!c.tree.empty() ? c.tree
+                                : std::vector<std::string>{
+                                      "A North", "Begin", "L 4 3 0 Chief", "C First", "Begin",
+                                      "U 8 2 Fus Musket 0 0 Line", "U 6 2 Gun Cannon 0 0 Guns",
+                                      "S 9 0 Wagons", "End", "End", "A South", "Begin", "C Staff",
+                                      "Begin", "L 4 3 0 Aide", "U 5 2 Fus Musket 0 0 Foot"});
     CTempFolder folder;
     WriteBytes(folder / "game.btl", text);
-    EXPECT_EQ(ImportGameData(folder / "game.btl", world.m_tree, flags.at(option)), RESULT_DONE);
+    EXPECT_EQ(ImportGameData(folder / "game.btl", world.m_tree, flags.at(c.option)), RESULT_DONE);
     const CTreeStore& tree = world.m_tree;
     std::string out = Shape(tree);
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
@@ -128,7 +132,7 @@ const std::map<std::string, CReader> kReaders = {
 };
 
 void CheckRow(const CReader& reader, const CCase& c) {
-    const COutcome got = reader.read(c.input, c.option);
+    const COutcome got = reader.read(c.input, c);
     EXPECT_EQ(got.result, c.result);
     if (c.writtenWhole) {
         EXPECT_EQ(got.written, c.written);
@@ -136,7 +140,7 @@ void CheckRow(const CReader& reader, const CCase& c) {
         EXPECT_NE(got.written.find(c.written), std::string::npos) << got.written.substr(0, 600);
     }
     if (reader.readsBack) {
-        const COutcome again = reader.read(got.written, c.option);
+        const COutcome again = reader.read(got.written, c);
         EXPECT_EQ(again.result, got.result);
         EXPECT_EQ(again.written, got.written);
     }
@@ -151,11 +155,11 @@ void CheckCuts(const CReader& reader, const CCase& c) {
     for (std::size_t n = 0; n <= c.input.size(); ++n) {
         SCOPED_TRACE(n);
         const std::string cut = c.input.substr(0, n);
-        const COutcome got = reader.read(cut, c.option);
+        const COutcome got = reader.read(cut, c);
         if (n == 0 || cut.back() == '\n' || !c.partialLineRead) {
             EXPECT_EQ(got.result, c.afterLines[std::count(cut.begin(), cut.end(), '\n')]);
         } else {
-            const COutcome ended = reader.read(cut + "\n", c.option);
+            const COutcome ended = reader.read(cut + "\n", c);
             EXPECT_EQ(got.result, ended.result);
             EXPECT_EQ(got.written, ended.written);
         }

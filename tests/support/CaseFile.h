@@ -86,6 +86,7 @@ inline std::string PiecesOf(const std::string& text) {
 
 struct CCase {
     std::string input, option, result, written;
+    std::vector<std::string> tree;        // order-of-battle lines a case may read into
     std::vector<std::string> afterLines;  // a cut case: the result after 0, 1, ... whole lines
     bool partialLineRead = false;         // a cut inside a line reads it as the file's last
     bool writtenWhole = false;            // the written text is the case's, not only holds it
@@ -106,6 +107,8 @@ inline CCase ReadCase(const std::string& path) {
             c.written += PiecesOf(rest);
         } else if (key == "option") {
             c.option = rest;
+        } else if (key == "tree") {
+            c.tree.push_back(PiecesOf(rest));
         } else if (key == "after-lines") {
             c.afterLines.push_back(PiecesOf(rest));
         } else if (key == "written-whole") {
