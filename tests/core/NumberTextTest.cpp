@@ -70,14 +70,4 @@ TEST(NumberText, RandomValuesAreWrittenAsPrintfWritesThem) {
     }
 }
 
-TEST(NumberText, LeftAlignedNumbersArePaddedAfter) {
-    const std::pair<long long, const char*> cases[] = {
-        {0, "0  "}, {7, "7  "}, {-7, "-7 "}, {123, "123"}, {12345, "12345"}};
-    for (const auto& [value, text] : cases) {
-        std::string out;
-        AppendLeftAligned(out, value, 3);
-        EXPECT_EQ(out, text);
-    }
-}
-
 }  // namespace
