@@ -4,10 +4,13 @@
 
 #include <filesystem>
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include "CaseFile.h"
 #include "SmallGameData.h"
+#include "TestTrees.h"
+#include "base/Result.h"
 #include "base/TextLines.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
@@ -15,6 +18,7 @@
 #include "model/GunboatItem.h"
 #include "model/ItemFactory.h"
 #include "model/LeaderItem.h"
+#include "model/OobDocument.h"
 #include "model/SupplyItem.h"
 #include "model/UnitItem.h"
 
@@ -202,59 +206,33 @@ TEST_F(ItemKinds, StructureNameStartsRightAfterTheKeyword) {
     EXPECT_EQ(Text(*item), "B Iron Brigade");
 }
 
-class Aggregates : public ItemKinds {
-protected:
-    HTREEITEM Add(const std::string& line, HTREEITEM parent = TVI_ROOT) {
-        return m_tree.InsertItem(Read(line), parent, TVI_LAST);
+// Each line of tests/data/items/aggregates.txt: what an entry of aggregates.oob totals in a
+// category, for each measure.
+TEST_F(ItemKinds, AggregatesOverSubtrees) {
+    COobDocument document(&m_db);
+    CTreeStore tree;
+    ASSERT_EQ(document.LoadTree(HW_TEST_DATA "/items/aggregates.oob", tree), RESULT_DONE);
+    std::istringstream rows(ReadBytes(HW_TEST_DATA "/items/aggregates.txt"));
+    int checked = 0;
+    for (std::string line; std::getline(rows, line);) {
+        std::istringstream row(line);
+        int category = 0;
+        double values[4] = {};
+        std::string label;
+        if (line[0] != '#' &&
+            row >> category >> values[0] >> values[1] >> values[2] >> values[3] >> std::ws &&
+            std::getline(row, label)) {
+            const HTREEITEM entry = label == "*" ? nullptr : FindLabel(tree, label);
+            const COobItem& item = *ItemOf(tree, entry ? entry : tree.GetRootItem());
+            for (int measure = 0; measure < 4; ++measure) {
+                EXPECT_NEAR(item.Aggregate(tree, entry, category, measure), values[measure],
+                            1e-9 * values[measure])
+                    << line << ", measure " << measure;
+            }
+            ++checked;
+        }
     }
-    double Sum(HTREEITEM entry, int category, int measure) {
-        return ItemOf(m_tree, entry)->Aggregate(m_tree, entry, category, measure);
-    }
-
-    CTreeStore m_tree;
-};
-
-TEST_F(Aggregates, CategoriesAndMeasuresOverASubtree) {
-    HTREEITEM army = Add("A Army of Norland");  // 500
-    Add("L 4 7 0 Marshal Orm", army);           // 950, 1 man
-    HTREEITEM brigade = Add("B Iron Brigade", army);
-    Add("U 10 3 Foot Musket 1 2 Line Foot", brigade);         // 160, 50 men
-    Add("U 10 -3 Foot Musket 1 2 Old Guard", brigade);        // 210, 50 men
-    Add("U 5 4 Dragoons Sabre 0 0 Hussars", brigade);         // 72, 20 men
-    Add("U 2 1 FieldGun Gun6 3 4 Battery", brigade);          // 176, 40 men
-    Add("S 20 12 Corps Train", army);                         // 500, 200 men
-    Add("DEP 6 4 Depot", army);                               // 60, 60 men
-    Add("GB 8 -4 Gun12 2 Swift", army);                       // 1312, artillery class
-    HTREEITEM empty = Add("B Empty Brigade", army);           // 250
-    HTREEITEM outside = Add("U 10 3 Foot Musket 1 2 Apart");  // not in the army
-
-    struct Case {
-        int category;
-        double cost, count, men;
-    };
-    const Case cases[] = {
-        {CATEGORY_ALL, 500 + 950 + 250 + 160 + 210 + 72 + 176 + 500 + 60 + 1312 + 250, 11, 421},
-        {CATEGORY_INFANTRY, 370, 2, 100},
-        {CATEGORY_CAVALRY, 72, 1, 20},
-        {CATEGORY_ARTILLERY, 176 + 1312, 2, 40},
-        {CATEGORY_SUPPLY, 560, 2, 260},  // category 4 is class 5
-        {CATEGORY_LEADERS, 950, 1, 1},   // category 5 is class 4
-        {6, 0, 0, 0},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.category);
-        EXPECT_NEAR(Sum(army, c.category, MEASURE_COST), c.cost, 1e-9 * c.cost);
-        EXPECT_DOUBLE_EQ(Sum(army, c.category, MEASURE_COUNT), c.count);
-        EXPECT_DOUBLE_EQ(Sum(army, c.category, MEASURE_MEN), c.men);
-        EXPECT_EQ(Sum(army, c.category, 3), 0.0);
-    }
-    EXPECT_NEAR(Sum(brigade, CATEGORY_ALL, MEASURE_COST), 250 + 160 + 210 + 72 + 176, 1e-9);
-    EXPECT_DOUBLE_EQ(Sum(empty, CATEGORY_ALL, MEASURE_COUNT), 1);
-    // A leaf gives its own cost whatever it is asked.
-    EXPECT_DOUBLE_EQ(Sum(outside, CATEGORY_CAVALRY, MEASURE_MEN), 160);
-    // With no entry an army totals the whole tree.
-    EXPECT_DOUBLE_EQ(ItemOf(m_tree, army)->Aggregate(m_tree, nullptr, CATEGORY_ALL, MEASURE_COUNT),
-                     12);
+    EXPECT_EQ(checked, 11);
 }
 
 }  // namespace

@@ -172,15 +172,6 @@ std::string RunInChild(const Fault& fault, const CSampleWriter& writer, CSampleF
     return WIFEXITED(status) && WEXITSTATUS(status) == 0 ? text : "the child process failed\n";
 }
 
-std::vector<std::string> Lines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
-
 TEST(RealFaults, EachKeptFileWriterReportsEachFaultAndKeepsTheOldFile) {
     const std::vector<Fault> faults = {
         {"full disk", ENOSPC, FullDisk},
@@ -201,7 +192,11 @@ TEST(RealFaults, EachKeptFileWriterReportsEachFaultAndKeepsTheOldFile) {
             const std::string folder = temp / "faulty";
             ASSERT_EQ(::mkdir(folder.c_str(), 0755), 0);
             WriteBytes(folder + "/file.out", kOld);
-            const std::vector<std::string> seen = Lines(RunInChild(fault, writer, sample, folder));
+            std::istringstream report(RunInChild(fault, writer, sample, folder));
+            std::vector<std::string> seen;
+            for (std::string line; std::getline(report, line);) {
+                seen.push_back(line);
+            }
             ASSERT_FALSE(seen.empty());
             ASSERT_EQ(seen[0], "") << "cannot make the fault: " << seen[0];
             ASSERT_EQ(seen.size(), 6u);
