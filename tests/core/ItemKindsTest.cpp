@@ -2,6 +2,7 @@
 // the unit reader does about records the game data lacks, and the containers' totals.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <sstream>
@@ -125,58 +126,48 @@ TEST_F(ItemKinds, UnitReadWithoutReservedValueGainsItWhenWrittenWithIt) {
     EXPECT_EQ(Text(*unit), "U 12 5 Foot Musket 3 0 7 Left Wing");
 }
 
-TEST_F(ItemKinds, UnknownUnitTypeIsWarnedAskedForAndAddedOnce) {
+// An unknown type is warned, asked for once and added at the head of the types with the class
+// answered; an unknown weapon is warned and added at the head of its type's weapons.
+TEST_F(ItemKinds, UnknownTypesAndWeaponsAreWarnedAndAddedOnce) {
     m_prompts.m_nAnswer = 2;
     const int types = m_db.m_Types.Count();
     const std::string line = "U 12 5 Jaeger Rifle 3 7 Light Company";
     const auto first = Read("  U 12  5 Jaeger\tRifle 3 7 Light Company");
+    const auto second = Read("U 4 4 Jaeger Rifle 0 0 Second Company");
+    const auto pike = Read("U 10 3 Foot  Pike 1 2 Pikemen");
     EXPECT_EQ(m_prompts.m_warnings,
               (std::vector<std::string>{
                   "Entry : " + line + "\nUknown unit type : [Jaeger]",
-                  "Entry : " + line + "\nUknown weapon type : [Rifle] for unit type [Jaeger]"}));
+                  "Entry : " + line + "\nUknown weapon type : [Rifle] for unit type [Jaeger]",
+                  "Entry : U 10 3 Foot Pike 1 2 Pikemen\nUknown weapon type : [Pike] for unit "
+                  "type [Foot]"}));
     EXPECT_EQ(m_prompts.m_questions, std::vector<std::string>{line});
-    CTypeRecord* type = TypeAt(0);
-    EXPECT_EQ(first->m_pType, type);
-    EXPECT_EQ(type->m_strType + "/" + std::string(type->m_strName), "Jaeger/Unit type Jaeger");
-    ASSERT_NE(first->m_pBaseType, nullptr);
-    EXPECT_EQ(first->m_pBaseType->ClassCode(), 2);  // the cavalry base type
-    EXPECT_EQ(Text(*first), line);
-
-    const auto second = Read("U 4 4 Jaeger Rifle 0 0 Second Company");
-    EXPECT_EQ(second->m_pType, type);
+    const CTypeRecord* type = TypeAt(0);
+    EXPECT_EQ(type->m_strType + "/" + std::string(type->m_strName) + "/" +
+                  std::to_string(type->ClassCode()) +
+                  std::to_string(first->m_pBaseType->ClassCode()),
+              "Jaeger/Unit type Jaeger/22");  // class 2 and the cavalry base type
+    EXPECT_TRUE(first->m_pType == type && second->m_pType == type);
     EXPECT_EQ(second->m_pWeapon, first->m_pWeapon);
-    EXPECT_EQ(m_prompts.m_warnings.size() + m_prompts.m_questions.size(), 3u);
     EXPECT_EQ(m_db.m_Types.Count(), types + 1);
+    EXPECT_EQ(Text(*first), line);
+    const auto* weapon =
+        static_cast<CWeaponRecord*>(pike->m_pType->m_Weapons.Head()->m_pPayload.get());
+    EXPECT_EQ(pike->m_pWeapon, weapon);
+    EXPECT_EQ(weapon->m_strWeapon + "/" + std::string(weapon->m_strName), "Pike/Weapon type Pike");
+    // Quality 3 on the base 2 and the type's 0.2, the new weapon adding nothing.
+    EXPECT_NEAR(pike->Cost(), 10 * 5 * 2 * 1.3, 1e-9);
 }
 
 // The answer is the new type's class; one outside the unit classes, or no one to ask, means
 // infantry.
 TEST_F(ItemKinds, UnitClassAnswerOutsideTheUnitClassesMeansInfantry) {
-    for (const auto& [answer, unitClass] : {std::pair{3, 3}, {0, 1}, {4, 1}, {-1, 1}}) {
+    for (const auto& [answer, unitClass] : {std::pair{3, 3}, {0, 1}, {4, 1}, {-1, 1}, {9, 0}}) {
         m_prompts.m_nAnswer = answer;
+        m_db.m_pPrompts = unitClass == 0 ? nullptr : &m_prompts;
         const auto unit = Read("U 1 1 New" + std::to_string(answer + 1) + " Musket 0 0 Someone");
-        ASSERT_NE(unit->m_pType, nullptr);
-        EXPECT_EQ(unit->m_pType->ClassCode(), unitClass) << answer;
+        EXPECT_EQ(unit->m_pType->ClassCode(), std::max(unitClass, 1)) << answer;
     }
-    m_db.m_pPrompts = nullptr;
-    const auto unit = Read("U 1 1 Quiet Rifle 0 0 Quiet");
-    ASSERT_NE(unit->m_pType, nullptr);
-    EXPECT_EQ(unit->m_pType->ClassCode(), 1);
-}
-
-TEST_F(ItemKinds, UnknownWeaponIsWarnedAndAddedAtTheHeadOfTheTypesWeapons) {
-    const auto unit = Read("U 10 3 Foot  Pike 1 2 Pikemen");
-    EXPECT_EQ(m_prompts.m_warnings,
-              std::vector<std::string>{"Entry : U 10 3 Foot Pike 1 2 Pikemen\nUknown weapon type "
-                                       ": [Pike] for unit type [Foot]"});
-    EXPECT_TRUE(m_prompts.m_questions.empty());
-    ASSERT_NE(unit->m_pType, nullptr);
-    const auto* weapon =
-        static_cast<CWeaponRecord*>(unit->m_pType->m_Weapons.Head()->m_pPayload.get());
-    EXPECT_EQ(unit->m_pWeapon, weapon);
-    EXPECT_EQ(weapon->m_strWeapon + "/" + std::string(weapon->m_strName), "Pike/Weapon type Pike");
-    // Quality 3 on the base 2 and the type's 0.2, the new weapon adding nothing.
-    EXPECT_NEAR(unit->Cost(), 10 * 5 * 2 * 1.3, 1e-9);
 }
 
 // Names and record names of every length up to past two copy widths come back whole, whatever
