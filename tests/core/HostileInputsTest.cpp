@@ -16,6 +16,7 @@
 #include "TempFolder.h"
 #include "TestTrees.h"
 #include "WorkspaceFields.h"
+#include "base/LineCut.h"
 #include "base/Result.h"
 #include "base/TextLines.h"
 #include "base/TreeWalk.h"
@@ -52,19 +53,35 @@ COutcome ReadOob(const std::string& text, const CCase&) {
     return {Shape(tree), doc.m_writer.ToText(tree)};
 }
 
-// Inserts block number option of the input under an army P that holds one unit W.
+// Inserts block N of the input under the first army (P holding one unit W, or the case's tree),
+// last or, as the option "N first" or "N after LABEL" says, first or after the entry LABEL.
 COutcome InsertTemplate(const std::string& text, const CCase& c) {
     CTempFolder folder;
-    WriteBytes(folder / "army.oob", "3\nA P\n\tBegin\n\tU 1 1 Foot Musket 0 0 W\n");
+    std::string army = "3\nA P\n\tBegin\n\tU 1 1 Foot Musket 0 0 W\n";
+    if (!c.tree.empty()) {
+        army = "3\n";
+        for (const std::string& line : c.tree) {
+            army += line + "\n";
+        }
+    }
+    WriteBytes(folder / "army.oob", army);
     WriteBytes(folder / "in.tpl", text);
     CGameDatabase db;
     LoadSmallGameData(db);
     COobDocument doc(&db);
     CTreeStore tree;
     EXPECT_EQ(doc.LoadTree(folder / "army.oob", tree), RESULT_DONE);
-    EXPECT_EQ(doc.m_reader.InsertTemplate(folder / "in.tpl", tree, tree.GetRootItem(), TVI_LAST,
-                                          std::stoi(c.option)),
-              RESULT_DONE);
+    std::istringstream option(c.option);
+    int block = 0;
+    std::string where, label;
+    option >> block >> where >> std::ws;
+    std::getline(option, label);
+    const HTREEITEM after = where == "first"   ? TVI_FIRST
+                            : where == "after" ? FindLabel(tree, label)
+                                               : TVI_LAST;
+    EXPECT_EQ(
+        doc.m_reader.InsertTemplate(folder / "in.tpl", tree, tree.GetRootItem(), after, block),
+        RESULT_DONE);
     return {Shape(tree), doc.m_writer.ToText(tree)};
 }
 
@@ -125,10 +142,17 @@ COutcome Import(const std::string& text, const CCase& c) {
     return {out, ""};
 }
 
+// What a writer leaves of over-long lines, the option naming the delimiter ("blank" or "|").
+COutcome CutLines(const std::string& text, const CCase& c) {
+    std::string cut = text;
+    CutOverLongLines(cut, c.option == "blank" ? ' ' : c.option[0]);
+    return {cut, ""};
+}
+
 const std::map<std::string, CReader> kReaders = {
     {"oob", {ReadOob, true}},       {"template", {InsertTemplate, false}},
     {"target", {ReadTarget, true}}, {"workspace", {ReadWorkspace, false}},
-    {"import", {Import, false}},
+    {"import", {Import, false}},    {"line-cut", {CutLines, false}},
 };
 
 void CheckRow(const CReader& reader, const CCase& c) {

@@ -104,25 +104,6 @@ protected:
     HTREEITEM m_hParent = nullptr;
 };
 
-// The chosen block's first top-level item goes right after the given sibling, the others
-// last (the choice of block is rows of the hostile template table); an item at a level no
-// container opened hangs under the caller's parent. A file without an end tag is inserted to its
-// end, and inserting names no file.
-TEST_F(Templates, TopLevelItemsGoAfterTheSiblingThenLast) {
-    const std::string second = File("two.tpl", "A Other\r\n</T>\r\n" + kUnit + "one\r\n" + kUnit +
-                                                   "two\r\n</T>\r\n" + kUnit + "three\r\n");
-    EXPECT_EQ(Insert(second, 1, Find("X")), "P(W X one Y two)");
-    EXPECT_EQ(Insert(File("pair.tpl", kUnit + "a\r\n" + kUnit + "b\r\n"), 0, TVI_FIRST),
-              "P(a W X one Y two b)");
-    EXPECT_EQ(Insert(File("deep.tpl", "Begin\nBegin\n" + kUnit + "orphan\n"), 0),
-              "P(a W X one Y two b orphan)");
-    EXPECT_EQ(m_doc.m_strPath, m_folder / "in.oob");
-    CTreeStore tree;
-    ASSERT_EQ(m_doc.LoadTree(File("deep.oob", "3\nA Army\nBegin\nBegin\n" + kUnit + "x\n"), tree),
-              RESULT_DONE);
-    EXPECT_EQ(Shape(tree), "Army x");
-}
-
 TEST_F(Templates, WrittenSubtreesCloseOnlyTheirOwnBlocks) {
     Load(kGolden);
     // The walk climbs two levels after "1st Foot"; only the brigade's own block is closed.
@@ -136,6 +117,7 @@ TEST_F(Templates, WrittenSubtreesCloseOnlyTheirOwnBlocks) {
     const std::string path = File("iron.tpl", Subtree(Find("Iron Brigade")) + "</T>\r\n");
     EXPECT_EQ(Insert(path, 0, TVI_FIRST),
               "P(Iron Brigade(Colonel Ash 1st Foot) W X Y) " + std::string(kGoldenShape));
+    EXPECT_EQ(m_doc.m_strPath, m_folder / "in.oob");  // inserting names no file
 }
 
 TEST_F(OobDocument, CopyToListHoldsTheLinesWithoutTabs) {
