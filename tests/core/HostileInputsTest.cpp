@@ -11,8 +11,6 @@
 #include <string>
 
 #include "CaseFile.h"
-#include "ReportTree.h"
-#include "SmallGameData.h"
 #include "TempFolder.h"
 #include "TestTrees.h"
 #include "WorkspaceFields.h"
@@ -20,6 +18,7 @@
 #include "base/Result.h"
 #include "base/TextLines.h"
 #include "base/TreeWalk.h"
+#include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/GameImport.h"
 #include "model/OobDocument.h"
@@ -42,47 +41,49 @@ struct CReader {
     bool readsBack;  // what it writes reads back as the same outcome
 };
 
-COutcome ReadOob(const std::string& text, const CCase&) {
+// A document on the game data of tests/data/<data> and a tree read from the case's tree lines,
+// or the given ones, and the input written as in.file.
+struct CCaseTree {
+    CCaseTree(const char* data, const CCase& c, const std::vector<std::string>& lines,
+              const std::string& input) {
+        EXPECT_EQ(db.Load(std::string(HW_TEST_DATA "/") + data), RESULT_DONE);
+        std::string text = "3\n";
+        for (const std::string& line : c.tree.empty() ? lines : c.tree) {
+            text += line + "\n";
+        }
+        WriteBytes(folder / "tree.oob", text);
+        WriteBytes(folder / "in.file", input);
+        EXPECT_EQ(doc.LoadTree(folder / "tree.oob", tree), RESULT_DONE);
+    }
+
     CTempFolder folder;
-    WriteBytes(folder / "in.oob", text);
     CGameDatabase db;
-    LoadSmallGameData(db);
-    COobDocument doc(&db);
+    COobDocument doc{&db};
     CTreeStore tree;
-    EXPECT_EQ(doc.LoadTree(folder / "in.oob", tree), RESULT_DONE);
-    return {Shape(tree), doc.m_writer.ToText(tree)};
+};
+
+COutcome ReadOob(const std::string& text, const CCase& c) {
+    CCaseTree t("small.inf", c, {}, text);
+    EXPECT_EQ(t.doc.LoadTree(t.folder / "in.file", t.tree), RESULT_DONE);
+    return {Shape(t.tree), t.doc.m_writer.ToText(t.tree)};
 }
 
 // Inserts block N of the input under the first army (P holding one unit W, or the case's tree),
 // last or, as the option "N first" or "N after LABEL" says, first or after the entry LABEL.
 COutcome InsertTemplate(const std::string& text, const CCase& c) {
-    CTempFolder folder;
-    std::string army = "3\nA P\n\tBegin\n\tU 1 1 Foot Musket 0 0 W\n";
-    if (!c.tree.empty()) {
-        army = "3\n";
-        for (const std::string& line : c.tree) {
-            army += line + "\n";
-        }
-    }
-    WriteBytes(folder / "army.oob", army);
-    WriteBytes(folder / "in.tpl", text);
-    CGameDatabase db;
-    LoadSmallGameData(db);
-    COobDocument doc(&db);
-    CTreeStore tree;
-    EXPECT_EQ(doc.LoadTree(folder / "army.oob", tree), RESULT_DONE);
+    CCaseTree t("small.inf", c, {"A P", "\tBegin", "\tU 1 1 Foot Musket 0 0 W"}, text);
     std::istringstream option(c.option);
     int block = 0;
     std::string where, label;
     option >> block >> where >> std::ws;
     std::getline(option, label);
     const HTREEITEM after = where == "first"   ? TVI_FIRST
-                            : where == "after" ? FindLabel(tree, label)
+                            : where == "after" ? FindLabel(t.tree, label)
                                                : TVI_LAST;
-    EXPECT_EQ(
-        doc.m_reader.InsertTemplate(folder / "in.tpl", tree, tree.GetRootItem(), after, block),
-        RESULT_DONE);
-    return {Shape(tree), doc.m_writer.ToText(tree)};
+    EXPECT_EQ(t.doc.m_reader.InsertTemplate(t.folder / "in.file", t.tree, t.tree.GetRootItem(),
+                                            after, block),
+              RESULT_DONE);
+    return {Shape(t.tree), t.doc.m_writer.ToText(t.tree)};
 }
 
 // Kinds, base types, types, weapons, attached orders of battle and templates read.
@@ -118,17 +119,14 @@ COutcome Import(const std::string& text, const CCase& c) {
         {"empty only", IMPORT_REMOVE_EMPTY}};
     // 1 North: 1.1 Chief, 1.2 First (1.2.1 Line 8, 1.2.2 Guns 6, 1.2.3 Wagons 9);
     // 2 South: 2.1 Staff (2.1.1 Aide, 2.1.2 Foot 5).
-    CReportWorld world;
-    world.Build(!c.tree.empty() ? c.tree
-                                : std::vector<std::string>{
-                                      "A North", "Begin", "L 4 3 0 Chief", "C First", "Begin",
-                                      "U 8 2 Fus Musket 0 0 Line", "U 6 2 Gun Cannon 0 0 Guns",
-                                      "S 9 0 Wagons", "End", "End", "A South", "Begin", "C Staff",
-                                      "Begin", "L 4 3 0 Aide", "U 5 2 Fus Musket 0 0 Foot"});
-    CTempFolder folder;
-    WriteBytes(folder / "game.btl", text);
-    EXPECT_EQ(ImportGameData(folder / "game.btl", world.m_tree, flags.at(c.option)), RESULT_DONE);
-    const CTreeStore& tree = world.m_tree;
+    CCaseTree t(
+        "report.inf", c,
+        {"A North", "Begin", "L 4 3 0 Chief", "C First", "Begin", "U 8 2 Fus Musket 0 0 Line",
+         "U 6 2 Gun Cannon 0 0 Guns", "S 9 0 Wagons", "End", "End", "A South", "Begin", "C Staff",
+         "Begin", "L 4 3 0 Aide", "U 5 2 Fus Musket 0 0 Foot"},
+        text);
+    const CTreeStore& tree = t.tree;
+    EXPECT_EQ(ImportGameData(t.folder / "in.file", t.tree, flags.at(c.option)), RESULT_DONE);
     std::string out = Shape(tree);
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
         const COobItem* item = ItemOf(tree, walk.Current());

@@ -4,19 +4,22 @@
 #include <sstream>
 #include <string>
 
-#include "ReportTree.h"
 #include "TempFolder.h"
 #include "base/HtmlText.h"
 #include "base/LineWriter.h"
 #include "base/Result.h"
 #include "base/TextLines.h"
 #include "base/TreeWalk.h"
+#include "gamedata/GameDatabase.h"
 #include "model/ContainerItems.h"
+#include "model/OobDocument.h"
 #include "model/Reports.h"
 
 namespace {
 
-// Each line of tests/data/reports/cases.txt: an order of battle, a report kind and HTML flags,
+// Each line of tests/data/reports/cases.txt: an order of battle (on tests/data/report.inf:
+// infantry 5 men a point, cost 2 a man, modifier 1.5 at quality 2; cavalry 4 men, cost 3;
+// artillery 2 men, cost 4; leaders cost 10 at leadership 3), a report kind and HTML flags,
 // and the file the report must equal. The key counters of deeper levels start again under each
 // new parent; the depot ends the cost and leader reports but not the key and HTML reports.
 TEST(Reports, EachReportEqualsItsGoldenFile) {
@@ -25,6 +28,8 @@ TEST(Reports, EachReportEqualsItsGoldenFile) {
                                                      {"leader", ReportKind::kLeader},
                                                      {"html", ReportKind::kHtml}};
     const std::string folder = HW_TEST_DATA "/reports/";
+    CGameDatabase database;
+    ASSERT_EQ(database.Load(HW_TEST_DATA "/report.inf"), RESULT_DONE);
     std::istringstream cases(ReadBytes(folder + "cases.txt"));
     int checked = 0;
     for (std::string tree, kind, golden; cases >> std::ws && std::getline(cases, tree, ' ');) {
@@ -35,9 +40,10 @@ TEST(Reports, EachReportEqualsItsGoldenFile) {
         int flags = 0;
         cases >> kind >> flags >> golden;
         SCOPED_TRACE(golden);
-        CReportWorld world;
-        ASSERT_EQ(world.m_doc.LoadTree(folder + tree, world.m_tree), RESULT_DONE);
-        EXPECT_EQ(ReportText(world.m_tree, kinds.at(kind), flags), ReadBytes(folder + golden));
+        COobDocument document(&database);
+        CTreeStore loaded;
+        ASSERT_EQ(document.LoadTree(folder + tree, loaded), RESULT_DONE);
+        EXPECT_EQ(ReportText(loaded, kinds.at(kind), flags), ReadBytes(folder + golden));
         ++checked;
     }
     EXPECT_GT(checked, 0);
