@@ -120,11 +120,14 @@ TEST_F(Templates, WrittenSubtreesCloseOnlyTheirOwnBlocks) {
     EXPECT_EQ(m_doc.m_strPath, m_folder / "in.oob");  // inserting names no file
 }
 
-TEST_F(OobDocument, CopyToListHoldsTheLinesWithoutTabs) {
-    Load(kGolden);
+// The copied lines are the file's without indentation; pasted, the first top-level item goes
+// first and the others last, each with what it holds.
+TEST_F(Templates, CopiedLinesPasteAsTheSameItemsFirstThenLast) {
+    CTreeStore golden;
+    ASSERT_EQ(m_doc.LoadTree(File("golden.oob", kGolden), golden), RESULT_DONE);
     CLineStore list;
     list.AddString("left over");
-    m_doc.m_writer.CopyToList(m_tree, nullptr, list);
+    m_doc.m_writer.CopyToList(golden, nullptr, list);
     std::string joined = "3\n";
     for (int i = 0; i < list.GetCount(); ++i) {
         joined += list.GetText(i) + "\n";
@@ -132,18 +135,12 @@ TEST_F(OobDocument, CopyToListHoldsTheLinesWithoutTabs) {
     std::string untabbed = kGolden;
     std::erase(untabbed, '\t');
     EXPECT_EQ(joined, untabbed);
-    m_doc.m_writer.CopyToList(m_tree, Find("Iron Brigade"), list);
-    EXPECT_EQ(list.GetCount(), 5);
-}
-
-TEST_F(Templates, PasteBuildsNestedItemsFirstThenLast) {
-    CLineStore list;
-    for (const std::string& line : {kUnit + "a", std::string("B b"), std::string("Begin"),
-                                    kUnit + "c", std::string("End"), kUnit + "d"}) {
-        list.AddString(line);
-    }
     m_doc.m_reader.PasteFromList(m_tree, m_hParent, TVI_FIRST, list);
-    EXPECT_EQ(Shape(m_tree), "P(a W X Y b(c) d)");
+    EXPECT_EQ(Shape(m_tree),
+              "P(Army of Norland(Marshal Orm Empty Brigade Iron Brigade(Colonel Ash 1st Foot)) W X "
+              "Y Depot Last Brigade(Major Fen Hussars Inner Brigade(Battery)))");
+    m_doc.m_writer.CopyToList(golden, FindLabel(golden, "Iron Brigade"), list);
+    EXPECT_EQ(list.GetCount(), 5);
 }
 
 TEST_F(OobDocument, DefaultOrderOfBattleReadsBackAsArmyLeaderAndDepot) {
