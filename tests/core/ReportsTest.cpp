@@ -8,10 +8,7 @@
 #include "base/HtmlText.h"
 #include "base/LineWriter.h"
 #include "base/Result.h"
-#include "base/TextLines.h"
-#include "base/TreeWalk.h"
 #include "gamedata/GameDatabase.h"
-#include "model/ContainerItems.h"
 #include "model/OobDocument.h"
 #include "model/Reports.h"
 
@@ -71,27 +68,4 @@ TEST(HtmlText, EscapesAtAnyPlaceOfAnyLength) {
     EXPECT_EQ(out, "");
 }
 
-// The report sums every container's totals in one pass; each line must be what the item's own
-// ToHtml, which asks Aggregate, gives.
-TEST(ReportsOnTheSample, OnePassTotalsAgreeWithAggregate) {
-    CGameDatabase db;
-    ASSERT_EQ(db.Load(std::string(HW_SAMPLE_DIR) + "/valdoria.inf"), RESULT_DONE);
-    COobDocument doc(&db);
-    CTreeStore tree;
-    ASSERT_EQ(doc.LoadTree(std::string(HW_SAMPLE_DIR) + "/valdoria.oob", tree), RESULT_DONE);
-    const int flags = HTML_COSTS | HTML_IMAGES;
-    const std::string report = ReportText(tree, ReportKind::kHtml, flags);
-    std::size_t checked = 0;
-    for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
-        std::string line;
-        ItemOf(tree, walk.Current())->ToHtml(line, tree, walk.Current(), flags);
-        EXPECT_NE(report.find(line + "\r\n"), std::string::npos) << line;
-        ++checked;
-    }
-    EXPECT_EQ(checked, tree.GetCount());
-    const std::string cost = ReportText(tree, ReportKind::kCost);
-    const HTREEITEM army = tree.GetRootItem();
-    const double total = ItemOf(tree, army)->Aggregate(tree, army, CATEGORY_ALL, MEASURE_COST);
-    EXPECT_NE(cost.find(Format(" %10.2f : ", total)), std::string::npos);
-}
 }  // namespace
