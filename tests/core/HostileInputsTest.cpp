@@ -13,7 +13,6 @@
 #include "CaseFile.h"
 #include "TempFolder.h"
 #include "TestTrees.h"
-#include "WorkspaceFields.h"
 #include "base/LineCut.h"
 #include "base/Result.h"
 #include "base/TextLines.h"
@@ -104,7 +103,12 @@ COutcome ReadWorkspace(const std::string& text, const CCase&) {
     CWorkspace w;
     std::istringstream in(text);
     w.ReadFrom(in);
-    return {Fields(w), ""};
+    std::string fields = w.m_strTitle + "|" + w.m_strOobFile + "|" + w.m_strBackupFile + "|" +
+                         w.m_strTargetFile + "|";
+    for (int i = 0; i < CWorkspace::kPictures; ++i) {
+        fields += std::to_string(w.m_nPictureFlags[i]) + ":" + w.m_strPicturePaths[i] + "|";
+    }
+    return {fields, ""};
 }
 
 // Imports the input as a game file into the case's tree or the one below, the option naming

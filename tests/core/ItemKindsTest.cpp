@@ -67,7 +67,7 @@ std::string Fields(const COobItem& item) {
 class ItemKinds : public ::testing::Test {
 protected:
     void SetUp() override {
-        LoadSmallGameData(m_db);
+        ASSERT_EQ(m_db.Load(HW_TEST_DATA "/small.inf"), RESULT_DONE);
         m_db.m_pPrompts = &m_prompts;
     }
 

@@ -38,7 +38,7 @@ std::string CrLf(const std::string& text) {
 class OobDocument : public ::testing::Test {
 protected:
     void SetUp() override {
-        LoadSmallGameData(m_db);
+        ASSERT_EQ(m_db.Load(HW_TEST_DATA "/small.inf"), RESULT_DONE);
         m_db.m_pPrompts = &m_prompts;
         m_doc.m_reader.m_onPassedOver = [this](int lineNumber, const std::string& line) {
             m_passedOver.push_back(std::to_string(lineNumber) + ":" + line);
