@@ -170,20 +170,6 @@ TEST_F(ItemKinds, UnitClassAnswerOutsideTheUnitClassesMeansInfantry) {
     }
 }
 
-// Names and record names of every length up to past two copy widths come back whole, whatever
-// piece of the line writer copies them.
-TEST_F(ItemKinds, TextsOfEveryLengthWriteBackWhole) {
-    for (std::size_t n = 1; n <= 40; ++n) {
-        std::string name;
-        for (std::size_t i = 0; i < n; ++i) {
-            name += static_cast<char>('a' + i % 26);
-        }
-        for (const std::string& line : {"B " + name, "U 12 5 Foot Musket 3 7 " + name}) {
-            EXPECT_EQ(Text(*Read(line)), line) << n;
-        }
-    }
-}
-
 // The name is the rest of the line from the first character after the keyword as the game data
 // writes it: without the keyword's trailing blank the name begins with one.
 TEST_F(ItemKinds, StructureNameStartsRightAfterTheKeyword) {
