@@ -1,50 +1,34 @@
-// harnwick-cli's commands, run in process on the sample workspace and on files written by the
-// tests, with every exit status.
+// harnwick-cli's commands, run in process on the sample workspace and on files of tests/data/cli,
+// with every exit status.
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "RunCli.h"
-#include "SmallGameData.h"
 #include "TempFolder.h"
 
 namespace {
 
 const std::string kSample = HW_SAMPLE_DIR "/";
+const std::string kData = HW_TEST_DATA "/";
 
 class Cli : public ::testing::Test {
 protected:
-    void SetUp() override {
-        WriteBytes(m_strSmallTarget, [] {
-            CGameDatabase db;
-            LoadSmallGameData(db);
-            return db.ToText();
-        }());
-    }
-    std::string File(const std::string& name, const std::string& text) {
-        WriteBytes(m_folder / name, text);
-        return m_folder / name;
-    }
-
     CTempFolder m_folder;
-    const std::string m_strSmallTarget = m_folder / "small.inf";
 };
 
-TEST_F(Cli, TreeListsKeyTypeKindNameCostAndMen) {
-    const std::string oob = File("a.oob",
-                                 "3\r\nA Army of Norland\r\n\tBegin\r\n\tL 4 7 0 Marshal Orm\r\n"
-                                 "\tB Iron Brigade\r\n\t\tBegin\r\n\t\tU 10 -3 Foot Musket 1 2 Old "
-                                 "Guard\r\n\t\tEnd\r\n\tEnd\r\nDEP 6 4 Depot\r\n");
-    const CliRun run = RunCli({"tree", m_strSmallTarget, oob});
-    EXPECT_EQ(run.status, EXIT_DONE);
-    EXPECT_EQ(run.out,
-              "1.\t7\tArmy\tArmy of Norland\t500\t0\n"
-              "1.1.\t4\tLeader\tMarshal Orm\t950\t1\n"
-              "1.2.\t6\tBrigade\tIron Brigade\t250\t0\n"
-              "1.2.1.\t0\tUnit\tOld Guard\t210\t50\n"
-              "2.\t8\tDepot\tDepot\t60\t60\n");
-    EXPECT_EQ(run.err, "");
+// The tree lists key, type, kind, name, cost and men; check lists every problem and exits with 4.
+TEST_F(Cli, TreeAndCheckPrintWhatTheirFilesHold) {
+    for (const auto& [command, oob, status] :
+         {std::tuple{"tree", "tree", EXIT_DONE}, {"check", "problems", EXIT_PROBLEMS}}) {
+        const CliRun run =
+            RunCli({command, kData + "small.inf", kData + "cli/" + std::string(oob) + ".oob"});
+        EXPECT_EQ(run.status, status);
+        EXPECT_EQ(run.out, ReadBytes(kData + "cli/" + std::string(oob) + ".txt"));
+        EXPECT_EQ(run.err.empty(), status == EXIT_DONE) << run.err;
+    }
 }
 
 TEST_F(Cli, SaveAndTargetWriteTheSampleBackByteForByte) {
@@ -62,7 +46,8 @@ TEST_F(Cli, SaveAndTargetWriteTheSampleBackByteForByte) {
 // Options may stand anywhere.
 TEST_F(Cli, SaveWritesTheTargetWithTheRecordsAddedWhileReading) {
     const std::string line = "U 12 5 Jaeger Rifle 3 0 7 Light Company";
-    const std::string oob = File("j.oob", "3\r\n" + line + "\r\n");
+    const std::string oob = m_folder / "j.oob";
+    WriteBytes(oob, "3\r\n" + line + "\r\n");
     const std::string target = m_folder / "j.inf";
     const CliRun run = RunCli({"--unknown-class", "2", "save", kSample + "valdoria.inf",
                                "--target-out", target, oob, m_folder / "out.oob"});
@@ -81,57 +66,38 @@ TEST_F(Cli, SaveWritesTheTargetWithTheRecordsAddedWhileReading) {
     EXPECT_EQ(check.out, "0 problems found\n");
 }
 
-TEST_F(Cli, CheckListsEveryProblemAndExitsWithFour) {
-    const std::string unit = "U 12 5 Jaeger Rifle 3 7 Light Company";
-    const std::string oob = File("bad.oob", "3\nA Army of Norland\n\tBegin\n\t" + unit +
-                                                "\n\tZed unknown line\n\tL 9 5 0 Nobody\n"
-                                                "\tX 1 2 Stray\n\tEnd\n");
-    const CliRun run = RunCli({"check", m_strSmallTarget, oob});
-    EXPECT_EQ(run.status, EXIT_PROBLEMS);
-    EXPECT_EQ(run.out, "Entry : " + unit + " Uknown unit type : [Jaeger]\n" + "Entry : " + unit +
-                           " Uknown weapon type : [Rifle] for unit type [Jaeger]\n"
-                           "line 5: no item kind: Zed unknown line\n"
-                           "line 7: no item kind: X 1 2 Stray\n"
-                           "1.2. Nobody: missing record: type base-type\n"
-                           "5 problems found\n");
-}
-
-TEST_F(Cli, InputThatDoesNotOpenExitsWithOne) {
+// Input that does not open exits with 1 naming it, and writes nothing; bad usage exits with 2.
+TEST_F(Cli, InputThatDoesNotOpenExitsWithOneAndBadUsageWithTwo) {
     const std::string target = kSample + "valdoria.inf";
     const std::string oob = kSample + "valdoria.oob";
     const std::string none = m_folder / "none";
-    const std::vector<std::vector<std::string>> cases = {
-        {"tree", none, oob},
-        {"check", none, oob},
-        {"new", none, m_folder / "o"},
-        {"tree", target, none},
-        {"save", target, none, m_folder / "o"},
+    const std::vector<std::pair<int, std::vector<std::string>>> cases = {
+        {EXIT_CANNOT_OPEN, {"tree", none, oob}},
+        {EXIT_CANNOT_OPEN, {"check", none, oob}},
+        {EXIT_CANNOT_OPEN, {"new", none, m_folder / "o"}},
+        {EXIT_CANNOT_OPEN, {"tree", target, none}},
+        {EXIT_CANNOT_OPEN, {"save", target, none, m_folder / "o"}},
+        {EXIT_USAGE, {}},
+        {EXIT_USAGE, {"frob", "a", "b"}},
+        {EXIT_USAGE, {"tree", "a"}},
+        {EXIT_USAGE, {"tree", "a", "b", "c"}},
+        {EXIT_USAGE, {"tree", "a", "b", "--unknown-class", "7"}},
+        {EXIT_USAGE, {"tree", "a", "b", "--unknown-class"}},
+        {EXIT_USAGE, {"check", "a", "b", "--target-out", "c"}},
+        {EXIT_USAGE, {"tree", "a", "b", "--verbose"}},
     };
-    for (const auto& args : cases) {
+    for (const auto& [status, args] : cases) {
+        SCOPED_TRACE(::testing::PrintToString(args));
         const CliRun run = RunCli(args);
-        EXPECT_EQ(run.status, EXIT_CANNOT_OPEN) << args[0];
-        EXPECT_EQ(run.err, "harnwick-cli: cannot open " + none + "\n") << args[0];
+        EXPECT_EQ(run.status, status);
         EXPECT_EQ(run.out, "");
+        if (status == EXIT_CANNOT_OPEN) {
+            EXPECT_EQ(run.err, "harnwick-cli: cannot open " + none + "\n");
+        } else {
+            EXPECT_NE(run.err, "");
+        }
     }
-    EXPECT_TRUE(m_folder.Names() == std::vector<std::string>{"small.inf"});
-}
-
-TEST_F(Cli, BadUsageExitsWithTwo) {
-    const std::vector<std::vector<std::string>> cases = {
-        {},
-        {"frob", "a", "b"},
-        {"tree", "a"},
-        {"tree", "a", "b", "c"},
-        {"tree", "a", "b", "--unknown-class", "7"},
-        {"tree", "a", "b", "--unknown-class"},
-        {"check", "a", "b", "--target-out", "c"},
-        {"tree", "a", "b", "--verbose"},
-    };
-    for (const auto& args : cases) {
-        const CliRun run = RunCli(args);
-        EXPECT_EQ(run.status, EXIT_USAGE) << ::testing::PrintToString(args);
-        EXPECT_NE(run.err, "");
-    }
+    EXPECT_TRUE(m_folder.Names().empty());
 }
 
 }  // namespace

@@ -83,14 +83,6 @@ TEST(CrashSave, AKilledSaveLeavesTheOldOrTheNewFile) {
     const std::string bytes = ReadBytes(path);
     ASSERT_GT(bytes.size(), 300000u);
 
-    // Both outcomes load: the old file and the new one with every entry of the tree.
-    CTreeStore loaded;
-    ASSERT_EQ(document.LoadTree(path, loaded), RESULT_DONE);
-    EXPECT_EQ(loaded.GetCount(), tree.GetCount());
-    WriteBytes(path, old);
-    ASSERT_EQ(document.LoadTree(path, loaded), RESULT_DONE);
-    EXPECT_GT(loaded.GetCount(), 0u);
-
     std::vector<Clock::duration> runs;
     for (int i = 0; i < 5; ++i) {
         runs.push_back(SaveInChild(document, tree, path, std::nullopt).elapsed);
@@ -100,16 +92,11 @@ TEST(CrashSave, AKilledSaveLeavesTheOldOrTheNewFile) {
 
     // The kills spread over the first four fifths of the quickest save, so that most of them
     // land before the save ends, while some still come after the rename.
-    int oldLeft = 0;
-    int newLeft = 0;
     int landed = 0;
     for (int i = 0; i < kKills; ++i) {
         const CSaveRun killed = SaveInChild(document, tree, path, run * 4 * i / (5 * kKills));
-        const std::string left = ReadBytes(path);
-        EXPECT_TRUE(left == old || left == bytes)
-            << "kill " << i << " left " << left.size() << " bytes";
-        oldLeft += left == old;
-        newLeft += left == bytes;
+        const std::string found = ReadBytes(path);
+        EXPECT_TRUE(found == old || found == bytes) << "kill " << i << " left " << found.size();
         landed += killed.killed;
         // A killed save leaves its temporary file; the next save starts from the old file.
         for (const std::string& name : folder.Names()) {
@@ -117,13 +104,6 @@ TEST(CrashSave, AKilledSaveLeavesTheOldOrTheNewFile) {
         }
         WriteBytes(path, old);
     }
-    RecordProperty(
-        "save_microseconds",
-        static_cast<int>(std::chrono::duration_cast<std::chrono::microseconds>(run).count()));
-    RecordProperty("kills_landed", landed);
-    RecordProperty("old_bytes_left", oldLeft);
-    RecordProperty("new_bytes_left", newLeft);
-    EXPECT_EQ(oldLeft + newLeft, kKills);
     EXPECT_GE(landed, kKills / 2) << "the saves ended before most kills";
 }
 

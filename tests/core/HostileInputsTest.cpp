@@ -11,14 +11,13 @@
 #include <string>
 
 #include "CaseFile.h"
-#include "ReportTree.h"
-#include "SmallGameData.h"
 #include "TempFolder.h"
 #include "TestTrees.h"
-#include "WorkspaceFields.h"
+#include "base/LineCut.h"
 #include "base/Result.h"
 #include "base/TextLines.h"
 #include "base/TreeWalk.h"
+#include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/GameImport.h"
 #include "model/OobDocument.h"
@@ -37,39 +36,57 @@ struct COutcome {
 };
 
 struct CReader {
-    std::function<COutcome(const std::string& input, const std::string& option)> read;
+    std::function<COutcome(const std::string& input, const CCase& c)> read;
     bool readsBack;  // what it writes reads back as the same outcome
 };
 
-COutcome ReadOob(const std::string& text, const std::string&) {
+// A document on the game data of tests/data/<data> and a tree read from the case's tree lines,
+// or the given ones, and the input written as in.file.
+struct CCaseTree {
+    CCaseTree(const char* data, const CCase& c, const std::vector<std::string>& lines,
+              const std::string& input) {
+        EXPECT_EQ(db.Load(std::string(HW_TEST_DATA "/") + data), RESULT_DONE);
+        std::string text = "3\n";
+        for (const std::string& line : c.tree.empty() ? lines : c.tree) {
+            text += line + "\n";
+        }
+        WriteBytes(folder / "tree.oob", text);
+        WriteBytes(folder / "in.file", input);
+        EXPECT_EQ(doc.LoadTree(folder / "tree.oob", tree), RESULT_DONE);
+    }
+
     CTempFolder folder;
-    WriteBytes(folder / "in.oob", text);
     CGameDatabase db;
-    LoadSmallGameData(db);
-    COobDocument doc(&db);
+    COobDocument doc{&db};
     CTreeStore tree;
-    EXPECT_EQ(doc.LoadTree(folder / "in.oob", tree), RESULT_DONE);
-    return {Shape(tree), doc.m_writer.ToText(tree)};
+};
+
+COutcome ReadOob(const std::string& text, const CCase& c) {
+    CCaseTree t("small.inf", c, {}, text);
+    EXPECT_EQ(t.doc.LoadTree(t.folder / "in.file", t.tree), RESULT_DONE);
+    return {Shape(t.tree), t.doc.m_writer.ToText(t.tree)};
 }
 
-// Inserts block number option of the input under an army P that holds one unit W.
-COutcome InsertTemplate(const std::string& text, const std::string& option) {
-    CTempFolder folder;
-    WriteBytes(folder / "army.oob", "3\nA P\n\tBegin\n\tU 1 1 Foot Musket 0 0 W\n");
-    WriteBytes(folder / "in.tpl", text);
-    CGameDatabase db;
-    LoadSmallGameData(db);
-    COobDocument doc(&db);
-    CTreeStore tree;
-    EXPECT_EQ(doc.LoadTree(folder / "army.oob", tree), RESULT_DONE);
-    EXPECT_EQ(doc.m_reader.InsertTemplate(folder / "in.tpl", tree, tree.GetRootItem(), TVI_LAST,
-                                          std::stoi(option)),
+// Inserts block N of the input under the first army (P holding one unit W, or the case's tree),
+// last or, as the option "N first" or "N after LABEL" says, first or after the entry LABEL.
+COutcome InsertTemplate(const std::string& text, const CCase& c) {
+    CCaseTree t("small.inf", c, {"A P", "\tBegin", "\tU 1 1 Foot Musket 0 0 W"}, text);
+    std::istringstream option(c.option);
+    int block = 0;
+    std::string where, label;
+    option >> block >> where >> std::ws;
+    std::getline(option, label);
+    const HTREEITEM after = where == "first"   ? TVI_FIRST
+                            : where == "after" ? FindLabel(t.tree, label)
+                                               : TVI_LAST;
+    EXPECT_EQ(t.doc.m_reader.InsertTemplate(t.folder / "in.file", t.tree, t.tree.GetRootItem(),
+                                            after, block),
               RESULT_DONE);
-    return {Shape(tree), doc.m_writer.ToText(tree)};
+    return {Shape(t.tree), t.doc.m_writer.ToText(t.tree)};
 }
 
 // Kinds, base types, types, weapons, attached orders of battle and templates read.
-COutcome ReadTarget(const std::string& text, const std::string&) {
+COutcome ReadTarget(const std::string& text, const CCase&) {
     CGameDatabase db;
     std::istringstream in(text);
     db.ReadFrom(in);
@@ -82,32 +99,38 @@ COutcome ReadTarget(const std::string& text, const std::string&) {
             db.ToText()};
 }
 
-COutcome ReadWorkspace(const std::string& text, const std::string&) {
+COutcome ReadWorkspace(const std::string& text, const CCase&) {
     CWorkspace w;
     std::istringstream in(text);
     w.ReadFrom(in);
-    return {Fields(w), ""};
+    std::string fields = w.m_strTitle + "|" + w.m_strOobFile + "|" + w.m_strBackupFile + "|" +
+                         w.m_strTargetFile + "|";
+    for (int i = 0; i < CWorkspace::kPictures; ++i) {
+        fields += std::to_string(w.m_nPictureFlags[i]) + ":" + w.m_strPicturePaths[i] + "|";
+    }
+    return {fields, ""};
 }
 
-// Imports the input as a game file into the tree below, the option naming what happens to the
-// entries it misses; the tree and the strength or supply of every unit and supply left.
-COutcome Import(const std::string& text, const std::string& option) {
+// Imports the input as a game file into the case's tree or the one below, the option naming
+// what happens to the entries it misses; the tree and the strength or supply of every unit and
+// supply left.
+COutcome Import(const std::string& text, const CCase& c) {
     const std::map<std::string, int> flags = {
         {"keep", 0},
         {"zero", IMPORT_ZERO_MISSING},
         {"remove", IMPORT_REMOVE_MISSING},
-        {"remove empty", IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY}};
+        {"remove empty", IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY},
+        {"empty only", IMPORT_REMOVE_EMPTY}};
     // 1 North: 1.1 Chief, 1.2 First (1.2.1 Line 8, 1.2.2 Guns 6, 1.2.3 Wagons 9);
     // 2 South: 2.1 Staff (2.1.1 Aide, 2.1.2 Foot 5).
-    CReportWorld world;
-    world.Build({"A North", "Begin", "L 4 3 0 Chief", "C First", "Begin",
-                 "U 8 2 Fus Musket 0 0 Line", "U 6 2 Gun Cannon 0 0 Guns", "S 9 0 Wagons", "End",
-                 "End", "A South", "Begin", "C Staff", "Begin", "L 4 3 0 Aide",
-                 "U 5 2 Fus Musket 0 0 Foot"});
-    CTempFolder folder;
-    WriteBytes(folder / "game.btl", text);
-    EXPECT_EQ(ImportGameData(folder / "game.btl", world.m_tree, flags.at(option)), RESULT_DONE);
-    const CTreeStore& tree = world.m_tree;
+    CCaseTree t(
+        "report.inf", c,
+        {"A North", "Begin", "L 4 3 0 Chief", "C First", "Begin", "U 8 2 Fus Musket 0 0 Line",
+         "U 6 2 Gun Cannon 0 0 Guns", "S 9 0 Wagons", "End", "End", "A South", "Begin", "C Staff",
+         "Begin", "L 4 3 0 Aide", "U 5 2 Fus Musket 0 0 Foot"},
+        text);
+    const CTreeStore& tree = t.tree;
+    EXPECT_EQ(ImportGameData(t.folder / "in.file", t.tree, flags.at(c.option)), RESULT_DONE);
     std::string out = Shape(tree);
     for (CTreeWalk walk(tree, nullptr); !walk.Done(); walk.Step()) {
         const COobItem* item = ItemOf(tree, walk.Current());
@@ -121,14 +144,21 @@ COutcome Import(const std::string& text, const std::string& option) {
     return {out, ""};
 }
 
+// What a writer leaves of over-long lines, the option naming the delimiter ("blank" or "|").
+COutcome CutLines(const std::string& text, const CCase& c) {
+    std::string cut = text;
+    CutOverLongLines(cut, c.option == "blank" ? ' ' : c.option[0]);
+    return {cut, ""};
+}
+
 const std::map<std::string, CReader> kReaders = {
     {"oob", {ReadOob, true}},       {"template", {InsertTemplate, false}},
     {"target", {ReadTarget, true}}, {"workspace", {ReadWorkspace, false}},
-    {"import", {Import, false}},
+    {"import", {Import, false}},    {"line-cut", {CutLines, false}},
 };
 
 void CheckRow(const CReader& reader, const CCase& c) {
-    const COutcome got = reader.read(c.input, c.option);
+    const COutcome got = reader.read(c.input, c);
     EXPECT_EQ(got.result, c.result);
     if (c.writtenWhole) {
         EXPECT_EQ(got.written, c.written);
@@ -136,7 +166,7 @@ void CheckRow(const CReader& reader, const CCase& c) {
         EXPECT_NE(got.written.find(c.written), std::string::npos) << got.written.substr(0, 600);
     }
     if (reader.readsBack) {
-        const COutcome again = reader.read(got.written, c.option);
+        const COutcome again = reader.read(got.written, c);
         EXPECT_EQ(again.result, got.result);
         EXPECT_EQ(again.written, got.written);
     }
@@ -151,11 +181,11 @@ void CheckCuts(const CReader& reader, const CCase& c) {
     for (std::size_t n = 0; n <= c.input.size(); ++n) {
         SCOPED_TRACE(n);
         const std::string cut = c.input.substr(0, n);
-        const COutcome got = reader.read(cut, c.option);
+        const COutcome got = reader.read(cut, c);
         if (n == 0 || cut.back() == '\n' || !c.partialLineRead) {
             EXPECT_EQ(got.result, c.afterLines[std::count(cut.begin(), cut.end(), '\n')]);
         } else {
-            const COutcome ended = reader.read(cut + "\n", c.option);
+            const COutcome ended = reader.read(cut + "\n", c);
             EXPECT_EQ(got.result, ended.result);
             EXPECT_EQ(got.written, ended.written);
         }

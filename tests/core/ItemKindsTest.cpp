@@ -2,12 +2,16 @@
 // the unit reader does about records the game data lacks, and the containers' totals.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include "CaseFile.h"
 #include "SmallGameData.h"
+#include "TestTrees.h"
+#include "base/Result.h"
 #include "base/TextLines.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
@@ -15,6 +19,7 @@
 #include "model/GunboatItem.h"
 #include "model/ItemFactory.h"
 #include "model/LeaderItem.h"
+#include "model/OobDocument.h"
 #include "model/SupplyItem.h"
 #include "model/UnitItem.h"
 
@@ -62,7 +67,7 @@ std::string Fields(const COobItem& item) {
 class ItemKinds : public ::testing::Test {
 protected:
     void SetUp() override {
-        LoadSmallGameData(m_db);
+        ASSERT_EQ(m_db.Load(HW_TEST_DATA "/small.inf"), RESULT_DONE);
         m_db.m_pPrompts = &m_prompts;
     }
 
@@ -121,71 +126,47 @@ TEST_F(ItemKinds, UnitReadWithoutReservedValueGainsItWhenWrittenWithIt) {
     EXPECT_EQ(Text(*unit), "U 12 5 Foot Musket 3 0 7 Left Wing");
 }
 
-TEST_F(ItemKinds, UnknownUnitTypeIsWarnedAskedForAndAddedOnce) {
+// An unknown type is warned, asked for once and added at the head of the types with the class
+// answered; an unknown weapon is warned and added at the head of its type's weapons.
+TEST_F(ItemKinds, UnknownTypesAndWeaponsAreWarnedAndAddedOnce) {
     m_prompts.m_nAnswer = 2;
     const int types = m_db.m_Types.Count();
     const std::string line = "U 12 5 Jaeger Rifle 3 7 Light Company";
     const auto first = Read("  U 12  5 Jaeger\tRifle 3 7 Light Company");
+    const auto second = Read("U 4 4 Jaeger Rifle 0 0 Second Company");
+    const auto pike = Read("U 10 3 Foot  Pike 1 2 Pikemen");
     EXPECT_EQ(m_prompts.m_warnings,
               (std::vector<std::string>{
                   "Entry : " + line + "\nUknown unit type : [Jaeger]",
-                  "Entry : " + line + "\nUknown weapon type : [Rifle] for unit type [Jaeger]"}));
+                  "Entry : " + line + "\nUknown weapon type : [Rifle] for unit type [Jaeger]",
+                  "Entry : U 10 3 Foot Pike 1 2 Pikemen\nUknown weapon type : [Pike] for unit "
+                  "type [Foot]"}));
     EXPECT_EQ(m_prompts.m_questions, std::vector<std::string>{line});
-    CTypeRecord* type = TypeAt(0);
-    EXPECT_EQ(first->m_pType, type);
-    EXPECT_EQ(type->m_strType + "/" + std::string(type->m_strName), "Jaeger/Unit type Jaeger");
-    ASSERT_NE(first->m_pBaseType, nullptr);
-    EXPECT_EQ(first->m_pBaseType->ClassCode(), 2);  // the cavalry base type
-    EXPECT_EQ(Text(*first), line);
-
-    const auto second = Read("U 4 4 Jaeger Rifle 0 0 Second Company");
-    EXPECT_EQ(second->m_pType, type);
+    const CTypeRecord* type = TypeAt(0);
+    EXPECT_EQ(type->m_strType + "/" + std::string(type->m_strName) + "/" +
+                  std::to_string(type->ClassCode()) +
+                  std::to_string(first->m_pBaseType->ClassCode()),
+              "Jaeger/Unit type Jaeger/22");  // class 2 and the cavalry base type
+    EXPECT_TRUE(first->m_pType == type && second->m_pType == type);
     EXPECT_EQ(second->m_pWeapon, first->m_pWeapon);
-    EXPECT_EQ(m_prompts.m_warnings.size() + m_prompts.m_questions.size(), 3u);
     EXPECT_EQ(m_db.m_Types.Count(), types + 1);
+    EXPECT_EQ(Text(*first), line);
+    const auto* weapon =
+        static_cast<CWeaponRecord*>(pike->m_pType->m_Weapons.Head()->m_pPayload.get());
+    EXPECT_EQ(pike->m_pWeapon, weapon);
+    EXPECT_EQ(weapon->m_strWeapon + "/" + std::string(weapon->m_strName), "Pike/Weapon type Pike");
+    // Quality 3 on the base 2 and the type's 0.2, the new weapon adding nothing.
+    EXPECT_NEAR(pike->Cost(), 10 * 5 * 2 * 1.3, 1e-9);
 }
 
 // The answer is the new type's class; one outside the unit classes, or no one to ask, means
 // infantry.
 TEST_F(ItemKinds, UnitClassAnswerOutsideTheUnitClassesMeansInfantry) {
-    for (const auto& [answer, unitClass] : {std::pair{3, 3}, {0, 1}, {4, 1}, {-1, 1}}) {
+    for (const auto& [answer, unitClass] : {std::pair{3, 3}, {0, 1}, {4, 1}, {-1, 1}, {9, 0}}) {
         m_prompts.m_nAnswer = answer;
+        m_db.m_pPrompts = unitClass == 0 ? nullptr : &m_prompts;
         const auto unit = Read("U 1 1 New" + std::to_string(answer + 1) + " Musket 0 0 Someone");
-        ASSERT_NE(unit->m_pType, nullptr);
-        EXPECT_EQ(unit->m_pType->ClassCode(), unitClass) << answer;
-    }
-    m_db.m_pPrompts = nullptr;
-    const auto unit = Read("U 1 1 Quiet Rifle 0 0 Quiet");
-    ASSERT_NE(unit->m_pType, nullptr);
-    EXPECT_EQ(unit->m_pType->ClassCode(), 1);
-}
-
-TEST_F(ItemKinds, UnknownWeaponIsWarnedAndAddedAtTheHeadOfTheTypesWeapons) {
-    const auto unit = Read("U 10 3 Foot  Pike 1 2 Pikemen");
-    EXPECT_EQ(m_prompts.m_warnings,
-              std::vector<std::string>{"Entry : U 10 3 Foot Pike 1 2 Pikemen\nUknown weapon type "
-                                       ": [Pike] for unit type [Foot]"});
-    EXPECT_TRUE(m_prompts.m_questions.empty());
-    ASSERT_NE(unit->m_pType, nullptr);
-    const auto* weapon =
-        static_cast<CWeaponRecord*>(unit->m_pType->m_Weapons.Head()->m_pPayload.get());
-    EXPECT_EQ(unit->m_pWeapon, weapon);
-    EXPECT_EQ(weapon->m_strWeapon + "/" + std::string(weapon->m_strName), "Pike/Weapon type Pike");
-    // Quality 3 on the base 2 and the type's 0.2, the new weapon adding nothing.
-    EXPECT_NEAR(unit->Cost(), 10 * 5 * 2 * 1.3, 1e-9);
-}
-
-// Names and record names of every length up to past two copy widths come back whole, whatever
-// piece of the line writer copies them.
-TEST_F(ItemKinds, TextsOfEveryLengthWriteBackWhole) {
-    for (std::size_t n = 1; n <= 40; ++n) {
-        std::string name;
-        for (std::size_t i = 0; i < n; ++i) {
-            name += static_cast<char>('a' + i % 26);
-        }
-        for (const std::string& line : {"B " + name, "U 12 5 Foot Musket 3 7 " + name}) {
-            EXPECT_EQ(Text(*Read(line)), line) << n;
-        }
+        EXPECT_EQ(unit->m_pType->ClassCode(), std::max(unitClass, 1)) << answer;
     }
 }
 
@@ -202,59 +183,33 @@ TEST_F(ItemKinds, StructureNameStartsRightAfterTheKeyword) {
     EXPECT_EQ(Text(*item), "B Iron Brigade");
 }
 
-class Aggregates : public ItemKinds {
-protected:
-    HTREEITEM Add(const std::string& line, HTREEITEM parent = TVI_ROOT) {
-        return m_tree.InsertItem(Read(line), parent, TVI_LAST);
+// Each line of tests/data/items/aggregates.txt: what an entry of aggregates.oob totals in a
+// category, for each measure.
+TEST_F(ItemKinds, AggregatesOverSubtrees) {
+    COobDocument document(&m_db);
+    CTreeStore tree;
+    ASSERT_EQ(document.LoadTree(HW_TEST_DATA "/items/aggregates.oob", tree), RESULT_DONE);
+    std::istringstream rows(ReadBytes(HW_TEST_DATA "/items/aggregates.txt"));
+    int checked = 0;
+    for (std::string line; std::getline(rows, line);) {
+        std::istringstream row(line);
+        int category = 0;
+        double values[4] = {};
+        std::string label;
+        if (line[0] != '#' &&
+            row >> category >> values[0] >> values[1] >> values[2] >> values[3] >> std::ws &&
+            std::getline(row, label)) {
+            const HTREEITEM entry = label == "*" ? nullptr : FindLabel(tree, label);
+            const COobItem& item = *ItemOf(tree, entry ? entry : tree.GetRootItem());
+            for (int measure = 0; measure < 4; ++measure) {
+                EXPECT_NEAR(item.Aggregate(tree, entry, category, measure), values[measure],
+                            1e-9 * values[measure])
+                    << line << ", measure " << measure;
+            }
+            ++checked;
+        }
     }
-    double Sum(HTREEITEM entry, int category, int measure) {
-        return ItemOf(m_tree, entry)->Aggregate(m_tree, entry, category, measure);
-    }
-
-    CTreeStore m_tree;
-};
-
-TEST_F(Aggregates, CategoriesAndMeasuresOverASubtree) {
-    HTREEITEM army = Add("A Army of Norland");  // 500
-    Add("L 4 7 0 Marshal Orm", army);           // 950, 1 man
-    HTREEITEM brigade = Add("B Iron Brigade", army);
-    Add("U 10 3 Foot Musket 1 2 Line Foot", brigade);         // 160, 50 men
-    Add("U 10 -3 Foot Musket 1 2 Old Guard", brigade);        // 210, 50 men
-    Add("U 5 4 Dragoons Sabre 0 0 Hussars", brigade);         // 72, 20 men
-    Add("U 2 1 FieldGun Gun6 3 4 Battery", brigade);          // 176, 40 men
-    Add("S 20 12 Corps Train", army);                         // 500, 200 men
-    Add("DEP 6 4 Depot", army);                               // 60, 60 men
-    Add("GB 8 -4 Gun12 2 Swift", army);                       // 1312, artillery class
-    HTREEITEM empty = Add("B Empty Brigade", army);           // 250
-    HTREEITEM outside = Add("U 10 3 Foot Musket 1 2 Apart");  // not in the army
-
-    struct Case {
-        int category;
-        double cost, count, men;
-    };
-    const Case cases[] = {
-        {CATEGORY_ALL, 500 + 950 + 250 + 160 + 210 + 72 + 176 + 500 + 60 + 1312 + 250, 11, 421},
-        {CATEGORY_INFANTRY, 370, 2, 100},
-        {CATEGORY_CAVALRY, 72, 1, 20},
-        {CATEGORY_ARTILLERY, 176 + 1312, 2, 40},
-        {CATEGORY_SUPPLY, 560, 2, 260},  // category 4 is class 5
-        {CATEGORY_LEADERS, 950, 1, 1},   // category 5 is class 4
-        {6, 0, 0, 0},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.category);
-        EXPECT_NEAR(Sum(army, c.category, MEASURE_COST), c.cost, 1e-9 * c.cost);
-        EXPECT_DOUBLE_EQ(Sum(army, c.category, MEASURE_COUNT), c.count);
-        EXPECT_DOUBLE_EQ(Sum(army, c.category, MEASURE_MEN), c.men);
-        EXPECT_EQ(Sum(army, c.category, 3), 0.0);
-    }
-    EXPECT_NEAR(Sum(brigade, CATEGORY_ALL, MEASURE_COST), 250 + 160 + 210 + 72 + 176, 1e-9);
-    EXPECT_DOUBLE_EQ(Sum(empty, CATEGORY_ALL, MEASURE_COUNT), 1);
-    // A leaf gives its own cost whatever it is asked.
-    EXPECT_DOUBLE_EQ(Sum(outside, CATEGORY_CAVALRY, MEASURE_MEN), 160);
-    // With no entry an army totals the whole tree.
-    EXPECT_DOUBLE_EQ(ItemOf(m_tree, army)->Aggregate(m_tree, nullptr, CATEGORY_ALL, MEASURE_COUNT),
-                     12);
+    EXPECT_EQ(checked, 11);
 }
 
 }  // namespace

@@ -46,9 +46,11 @@ TEST(LineTokenizer, ViewsOnlyACleanLine) {
     EXPECT_EQ(t.Line(), "U 12 3 T1 W1 Name");
 }
 
-// Lines of every length up to past two vector widths, with the one tab or doubled delimiter at
-// every inner position: the check for clean lines must see it wherever it falls.
-TEST(LineTokenizer, FindsASeparatorRunAtAnyPositionOfAnyLength) {
+// Lines of every length up to past two vector widths with the one tab or doubled delimiter at
+// every inner position, and indentation of tabs and blanks of every such depth: the check for
+// clean lines must see the run wherever it falls, and the first field starts where the
+// indentation ends, whichever step of the search that falls in.
+TEST(LineTokenizer, FindsSeparatorRunsAndIndentationAtAnyPosition) {
     for (std::size_t length = 3; length <= 40; ++length) {
         for (std::size_t at = 1; at + 1 < length; ++at) {
             std::string expected(length, 'x');
@@ -60,21 +62,12 @@ TEST(LineTokenizer, FindsASeparatorRunAtAnyPositionOfAnyLength) {
             EXPECT_EQ(Tokenize(' ', tab).GetLine(), expected) << length << " " << at;
             EXPECT_EQ(Tokenize(' ', doubled).GetLine(), expected) << length << " " << at;
         }
-    }
-}
-
-// Indentation of every depth up to past two vector widths, of tabs and blanks mixed, before
-// lines short and long: the first field starts where the indentation ends, whichever step of
-// the search that falls in.
-TEST(LineTokenizer, DropsIndentationOfAnyDepth) {
-    for (std::size_t depth = 0; depth <= 40; ++depth) {
-        for (const std::string text :
-             {"U", "L 4 4 0 Name", "S 6 1 A supply column of some length"}) {
-            std::string line;
-            for (std::size_t i = 0; i < depth; ++i) {
-                line += i % 3 == 1 ? ' ' : '\t';
-            }
-            EXPECT_EQ(Tokenize(' ', line + text).GetLine(), text) << depth << " " << text;
+        std::string indented;
+        for (std::size_t i = 3; i < length; ++i) {  // depths 0 to 37
+            indented += i % 3 == 1 ? ' ' : '\t';
+        }
+        for (const std::string text : {"U", "L 4 4 0 Name", "S 6 1 A supply column of length"}) {
+            EXPECT_EQ(Tokenize(' ', indented + text).GetLine(), text) << length << " " << text;
         }
     }
 }

@@ -38,7 +38,7 @@ std::string CrLf(const std::string& text) {
 class OobDocument : public ::testing::Test {
 protected:
     void SetUp() override {
-        LoadSmallGameData(m_db);
+        ASSERT_EQ(m_db.Load(HW_TEST_DATA "/small.inf"), RESULT_DONE);
         m_db.m_pPrompts = &m_prompts;
         m_doc.m_reader.m_onPassedOver = [this](int lineNumber, const std::string& line) {
             m_passedOver.push_back(std::to_string(lineNumber) + ":" + line);
@@ -104,25 +104,6 @@ protected:
     HTREEITEM m_hParent = nullptr;
 };
 
-// The chosen block's first top-level item goes right after the given sibling, the others
-// last (the choice of block is rows of the hostile template table); an item at a level no
-// container opened hangs under the caller's parent. A file without an end tag is inserted to its
-// end, and inserting names no file.
-TEST_F(Templates, TopLevelItemsGoAfterTheSiblingThenLast) {
-    const std::string second = File("two.tpl", "A Other\r\n</T>\r\n" + kUnit + "one\r\n" + kUnit +
-                                                   "two\r\n</T>\r\n" + kUnit + "three\r\n");
-    EXPECT_EQ(Insert(second, 1, Find("X")), "P(W X one Y two)");
-    EXPECT_EQ(Insert(File("pair.tpl", kUnit + "a\r\n" + kUnit + "b\r\n"), 0, TVI_FIRST),
-              "P(a W X one Y two b)");
-    EXPECT_EQ(Insert(File("deep.tpl", "Begin\nBegin\n" + kUnit + "orphan\n"), 0),
-              "P(a W X one Y two b orphan)");
-    EXPECT_EQ(m_doc.m_strPath, m_folder / "in.oob");
-    CTreeStore tree;
-    ASSERT_EQ(m_doc.LoadTree(File("deep.oob", "3\nA Army\nBegin\nBegin\n" + kUnit + "x\n"), tree),
-              RESULT_DONE);
-    EXPECT_EQ(Shape(tree), "Army x");
-}
-
 TEST_F(Templates, WrittenSubtreesCloseOnlyTheirOwnBlocks) {
     Load(kGolden);
     // The walk climbs two levels after "1st Foot"; only the brigade's own block is closed.
@@ -136,13 +117,17 @@ TEST_F(Templates, WrittenSubtreesCloseOnlyTheirOwnBlocks) {
     const std::string path = File("iron.tpl", Subtree(Find("Iron Brigade")) + "</T>\r\n");
     EXPECT_EQ(Insert(path, 0, TVI_FIRST),
               "P(Iron Brigade(Colonel Ash 1st Foot) W X Y) " + std::string(kGoldenShape));
+    EXPECT_EQ(m_doc.m_strPath, m_folder / "in.oob");  // inserting names no file
 }
 
-TEST_F(OobDocument, CopyToListHoldsTheLinesWithoutTabs) {
-    Load(kGolden);
+// The copied lines are the file's without indentation; pasted, the first top-level item goes
+// first and the others last, each with what it holds.
+TEST_F(Templates, CopiedLinesPasteAsTheSameItemsFirstThenLast) {
+    CTreeStore golden;
+    ASSERT_EQ(m_doc.LoadTree(File("golden.oob", kGolden), golden), RESULT_DONE);
     CLineStore list;
     list.AddString("left over");
-    m_doc.m_writer.CopyToList(m_tree, nullptr, list);
+    m_doc.m_writer.CopyToList(golden, nullptr, list);
     std::string joined = "3\n";
     for (int i = 0; i < list.GetCount(); ++i) {
         joined += list.GetText(i) + "\n";
@@ -150,18 +135,12 @@ TEST_F(OobDocument, CopyToListHoldsTheLinesWithoutTabs) {
     std::string untabbed = kGolden;
     std::erase(untabbed, '\t');
     EXPECT_EQ(joined, untabbed);
-    m_doc.m_writer.CopyToList(m_tree, Find("Iron Brigade"), list);
-    EXPECT_EQ(list.GetCount(), 5);
-}
-
-TEST_F(Templates, PasteBuildsNestedItemsFirstThenLast) {
-    CLineStore list;
-    for (const std::string& line : {kUnit + "a", std::string("B b"), std::string("Begin"),
-                                    kUnit + "c", std::string("End"), kUnit + "d"}) {
-        list.AddString(line);
-    }
     m_doc.m_reader.PasteFromList(m_tree, m_hParent, TVI_FIRST, list);
-    EXPECT_EQ(Shape(m_tree), "P(a W X Y b(c) d)");
+    EXPECT_EQ(Shape(m_tree),
+              "P(Army of Norland(Marshal Orm Empty Brigade Iron Brigade(Colonel Ash 1st Foot)) W X "
+              "Y Depot Last Brigade(Major Fen Hussars Inner Brigade(Battery)))");
+    m_doc.m_writer.CopyToList(golden, FindLabel(golden, "Iron Brigade"), list);
+    EXPECT_EQ(list.GetCount(), 5);
 }
 
 TEST_F(OobDocument, DefaultOrderOfBattleReadsBackAsArmyLeaderAndDepot) {

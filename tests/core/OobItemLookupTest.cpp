@@ -1,35 +1,38 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <sstream>
 #include <string>
+#include <type_traits>
 
+#include "base/Result.h"
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/OobItem.h"
 
 namespace {
 
-// A short keyword listed before a longer one that begins with it, two leader kinds, a keyword
-// with a trailing blank and a repeated keyword; two base types of one class; two types of one
-// name, and a weapon name repeated within a type.
-const char* const kTarget =
-    "\n\n\n\n\n\n"
-    "6|1|Div|Division|\n7|2|Division|Long division|\n4|1|L |Leader|\n"
-    "4|1|Lancer|Second leader kind|\n0|0|U |Unit|\n6|1|Div|Second Div|\n</B>\n"
-    "1|0|0|0|0|0|Line foot|\n2|0|0|0|0|0|Horse|\n1|0|0|0|0|0|Second foot|\n</C>\n"
-    "1|Fusilier|0|Fusilier|\nMusket|0|Musket|\nRifle|0|Rifle|\nMusket|0|Second musket|\n</W>\n"
-    "2|Hussar|0|Hussar|\nSabre|0|Sabre|\n</W>\n"
-    "1|Fusilier|0|Second fusilier|\n</W>\n</D>\n</E>\n\n</F>";
-
 std::string Text(const CDataObject* record) {
     return record ? std::string(record->m_strName) : "none";
 }
 
+template <typename Record>
+std::unique_ptr<Record> Named(const char* name, std::uint8_t code = CGameRecord::kNotRead,
+                              const char* keyword = "") {
+    auto record = std::make_unique<Record>();
+    record->m_strName = name;
+    record->m_nCode = code;
+    if constexpr (std::is_same_v<Record, CKindRecord>) {
+        record->m_strKeyword = keyword;
+    }
+    return record;
+}
+
+// tests/data/lookup.inf: a short keyword listed before a longer one that begins with it, two
+// leader kinds, a keyword with a trailing blank and a repeated keyword; two base types of one
+// class; two types of one name, and a weapon name repeated within a type.
 TEST(OobItemLookup, EveryLookupTakesTheFirstExactMatch) {
     CGameDatabase db;
-    std::istringstream in(kTarget);
-    db.ReadFrom(in);
+    ASSERT_EQ(db.Load(HW_TEST_DATA "/lookup.inf"), RESULT_DONE);
     COobItem item;
     item.m_pDatabase = &db;
     auto* fusilier = static_cast<CTypeRecord*>(db.m_Types.SeekIndex(0)->m_pPayload.get());
@@ -62,15 +65,9 @@ TEST(OobItemLookup, EveryLookupTakesTheFirstExactMatch) {
 
     // Kinds added after lines were looked up take part in the next lookup, in list order; a kind
     // without a keyword claims any line no kind before it claims, whatever its first byte.
-    const auto kind = [](const char* keyword, const char* name) {
-        auto record = std::make_unique<CKindRecord>();
-        record->m_strKeyword = keyword;
-        record->m_strName = name;
-        return record;
-    };
-    db.m_Kinds.PushFront(kind("Divisio", "Pushed first"));
-    db.m_Kinds.PushBack(kind("Zed ", "Pushed last"));
-    db.m_Kinds.PushBack(kind("", "No keyword"));
+    db.m_Kinds.PushFront(Named<CKindRecord>("Pushed first", CGameRecord::kNotRead, "Divisio"));
+    db.m_Kinds.PushBack(Named<CKindRecord>("Pushed last", CGameRecord::kNotRead, "Zed "));
+    db.m_Kinds.PushBack(Named<CKindRecord>("No keyword"));
     const std::pair<const char*, const char*> afterPush[] = {
         {"Division 3rd Division", "Pushed first"},
         {"Zed 1", "Pushed last"},
@@ -84,16 +81,9 @@ TEST(OobItemLookup, EveryLookupTakesTheFirstExactMatch) {
 
     // Base types likewise: one pushed to the front is now its class's first; one of a class
     // no base type had is found at once.
-    const auto base = [](std::uint8_t code, const char* name) {
-        auto record = std::make_unique<CBaseTypeRecord>();
-        record->m_nCode = code;
-        record->m_strName = name;
-        return record;
-    };
-    auto hussar = std::make_unique<CTypeRecord>();
-    hussar->m_nCode = 3;
-    db.m_BaseTypes.PushFront(base(1, "Front foot"));
-    db.m_BaseTypes.PushBack(base(3, "Guns"));
+    const auto hussar = Named<CTypeRecord>("", 3);
+    db.m_BaseTypes.PushFront(Named<CBaseTypeRecord>("Front foot", 1));
+    db.m_BaseTypes.PushBack(Named<CBaseTypeRecord>("Guns", 3));
     EXPECT_EQ(Text(item.FindBaseType(fusilier)), "Front foot");
     EXPECT_EQ(Text(item.FindBaseType(hussar.get())), "Guns");
 

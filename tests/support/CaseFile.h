@@ -5,25 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <iomanip>
+#include <map>
 #include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "TempFolder.h"
-
-// Random bytes with none of the bytes in banned, the same on every run for one seed.
-inline std::string Noise(std::size_t size, const std::string& banned, unsigned seed) {
-    std::mt19937 random(seed);
-    std::string bytes;
-    while (bytes.size() < size) {
-        const char c = static_cast<char>(random());
-        if (banned.find(c) == std::string::npos) {
-            bytes += c;
-        }
-    }
-    return bytes;
-}
 
 // "text" with its escapes \r \n \t \\ and \xHH taken.
 inline std::string Unescape(const std::string& text) {
@@ -40,52 +28,48 @@ inline std::string Unescape(const std::string& text) {
     return out;
 }
 
-inline std::string Piece(std::istream& in);
-
-// The pieces up to the end of the line or a ")", run together.
-inline std::string Pieces(std::istream& in) {
+// The pieces up to the end of the line or a ")", run together, or only the next one: "text",
+// repeat N PIECE, noise N "banned" SEED (random bytes, none of them banned, the same on every run
+// for one seed) or ( PIECE ... ).
+inline std::string Pieces(std::istream& in, bool one = false) {
     std::string out;
     while ((in >> std::ws).peek() != EOF && in.peek() != ')') {
-        out += Piece(in);
+        std::string word;
+        std::size_t n = 0;
+        if (in.peek() == '"') {
+            in >> std::quoted(word, '"', '\x01');
+            out += Unescape(word);
+        } else if (in.peek() == '(') {
+            in.ignore();
+            out += Pieces(in);
+        } else if (in >> word >> n >> std::ws && word == "repeat") {
+            const std::string piece = Pieces(in, true);
+            for (std::size_t i = 0; i < n; ++i) {
+                out += piece;
+            }
+        } else {
+            std::string banned;
+            unsigned seed = 0;
+            EXPECT_TRUE(word == "noise" && in >> std::quoted(banned, '"', '\x01') >> seed) << word;
+            banned = Unescape(banned);
+            std::string noise;
+            for (std::mt19937 random(seed); noise.size() < n;) {
+                const char c = static_cast<char>(random());
+                noise += banned.find(c) == std::string::npos ? std::string(1, c) : "";
+            }
+            out += noise;
+        }
+        if (one) {
+            return out;
+        }
     }
     in.ignore();
     return out;
 }
 
-// One piece: "text", repeat N PIECE, noise N "banned" SEED or ( PIECE ... ).
-inline std::string Piece(std::istream& in) {
-    std::string word;
-    if (in.peek() == '"') {
-        in >> std::quoted(word, '"', '\x01');
-        return Unescape(word);
-    }
-    if (in.get() == '(') {
-        return Pieces(in);
-    }
-    in.unget();
-    std::size_t n = 0;
-    in >> word >> n >> std::ws;
-    if (word == "repeat") {
-        const std::string piece = Piece(in);
-        std::string out;
-        for (std::size_t i = 0; i < n; ++i) {
-            out += piece;
-        }
-        return out;
-    }
-    std::string banned;
-    unsigned seed = 0;
-    EXPECT_TRUE(word == "noise" && in >> std::quoted(banned, '"', '\x01') >> seed) << word;
-    return Noise(n, Unescape(banned), seed);
-}
-
-inline std::string PiecesOf(const std::string& text) {
-    std::istringstream in(text);
-    return Pieces(in);
-}
-
 struct CCase {
     std::string input, option, result, written;
+    std::vector<std::string> tree;        // order-of-battle lines a case may read into
     std::vector<std::string> afterLines;  // a cut case: the result after 0, 1, ... whole lines
     bool partialLineRead = false;         // a cut inside a line reads it as the file's last
     bool writtenWhole = false;            // the written text is the case's, not only holds it
@@ -93,25 +77,26 @@ struct CCase {
 
 inline CCase ReadCase(const std::string& path) {
     CCase c;
+    const std::map<std::string, std::string CCase::*> pieces = {
+        {"input", &CCase::input}, {"result", &CCase::result}, {"written", &CCase::written}};
+    const std::map<std::string, std::vector<std::string> CCase::*> lists = {
+        {"tree", &CCase::tree}, {"after-lines", &CCase::afterLines}};
     std::istringstream in(ReadBytes(path));
     for (std::string line; std::getline(in, line);) {
-        const std::size_t blank = line.find(' ');
-        const std::string key = line.substr(0, blank);
-        const std::string rest = blank == std::string::npos ? "" : line.substr(blank + 1);
-        if (key == "input") {
-            c.input += PiecesOf(rest);
-        } else if (key == "result") {
-            c.result += PiecesOf(rest);
-        } else if (key == "written") {
-            c.written += PiecesOf(rest);
+        std::istringstream rest(line);
+        std::string key;
+        rest >> key >> std::ws;
+        if (pieces.count(key)) {
+            c.*pieces.at(key) += Pieces(rest);
+        } else if (lists.count(key)) {
+            (c.*lists.at(key)).push_back(Pieces(rest));
         } else if (key == "option") {
-            c.option = rest;
-        } else if (key == "after-lines") {
-            c.afterLines.push_back(PiecesOf(rest));
+            std::getline(rest, c.option);
         } else if (key == "written-whole") {
             c.writtenWhole = true;
         } else if (key == "partial-line") {
-            c.partialLineRead = rest == "read";
+            std::getline(rest, key);
+            c.partialLineRead = key == "read";
         } else {
             EXPECT_TRUE(key.empty() || key[0] == '#') << path << ": " << line;
         }

@@ -1,22 +1,13 @@
-// A small target file for the item and document tests (tests/data/small.inf; OOB header 3,
-// format variant 0, fanatic bonus 0.5): one kind of every item class, two kinds whose type code
-// names no class (X and Y) and a supply kind Q with no type record; one base type per class,
-// chosen so that the costs come out as round numbers.
+// Prompts that record the readers' questions. tests/data/small.inf, the target file of the item,
+// document and CLI tests (OOB header 3, format variant 0, fanatic bonus 0.5), holds one kind of
+// every item class, two kinds whose type code names no class (X and Y) and a supply kind Q with
+// no type record; one base type per class, chosen so that the costs come out as round numbers.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <fstream>
 #include <string>
 #include <vector>
 
-#include "gamedata/GameDatabase.h"
 #include "gamedata/ReaderPrompts.h"
-
-inline void LoadSmallGameData(CGameDatabase& database) {
-    std::ifstream in(HW_TEST_DATA "/small.inf", std::ios::binary);
-    database.ReadFrom(in);
-}
 
 // Records every question the readers ask and answers the unit class question with m_nAnswer.
 class CRecordingPrompts : public CReaderPrompts {
