@@ -60,6 +60,26 @@ bool WriteAll(CFileOps& ops, int fd, std::string_view bytes, int& error) {
     return true;
 }
 
+// Writes bytes, gives the file the permission bits mode (none: keeps them), flushes it to disk
+// and closes it, every step checked; error takes the first failure's reason. The close is
+// checked too: some file systems report a failed write only there.
+bool WriteSyncClose(CFileOps& ops, int fd, std::string_view bytes, const mode_t* mode, int& error) {
+    bool ok = WriteAll(ops, fd, bytes, error);
+    if (ok && mode && ops.Fchmod(fd, *mode) != 0) {
+        error = errno;
+        ok = false;
+    }
+    if (ok && ops.Fsync(fd) != 0) {
+        error = errno;
+        ok = false;
+    }
+    if (ops.Close(fd) != 0 && ok) {
+        error = errno;
+        ok = false;
+    }
+    return ok;
+}
+
 // How the new file took the old one's place, which decides how that is taken back.
 enum class Swap { kExchanged, kCreated, kRenamedOver };
 
@@ -158,20 +178,8 @@ CWriteResult ReplaceFile(const std::string& path, std::string_view bytes) {
         return Fail(path, errno);
     }
     int error = 0;
-    bool ok = WriteAll(ops, fd, bytes, error);
-    if (ok && replacing && ops.Fchmod(fd, old.st_mode & 07777) != 0) {
-        error = errno;
-        ok = false;
-    }
-    if (ok && ops.Fsync(fd) != 0) {
-        error = errno;
-        ok = false;
-    }
-    // The close is checked too: some file systems report a failed write only here.
-    if (ops.Close(fd) != 0 && ok) {
-        error = errno;
-        ok = false;
-    }
+    const mode_t mode = old.st_mode & 07777;
+    bool ok = WriteSyncClose(ops, fd, bytes, replacing ? &mode : nullptr, error);
     // The folder is opened before the rename, so that its failure still finds the old file.
     const int folder = ok ? ops.OpenFolder(FolderOf(target)) : -1;
     if (ok && folder < 0) {
@@ -198,15 +206,7 @@ CWriteResult AppendToFile(const std::string& path, std::string_view bytes) {
     }
     const off_t before = ::lseek(fd, 0, SEEK_END);
     int error = 0;
-    bool ok = WriteAll(ops, fd, bytes, error);
-    if (ok && ops.Fsync(fd) != 0) {
-        error = errno;
-        ok = false;
-    }
-    if (ops.Close(fd) != 0 && ok) {
-        error = errno;
-        ok = false;
-    }
+    const bool ok = WriteSyncClose(ops, fd, bytes, nullptr, error);
     if (!ok) {
         // Take the append back, so that a failure reported leaves the file as it was: its old
         // end, or no file when the append made it. A failed close is taken back too, since the
