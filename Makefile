@@ -62,7 +62,7 @@ $(FUZZ_BUILD)/build.ninja: | deps
 
 fuzz: deps $(FUZZ_BUILD)/build.ninja
 	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_tokenizer fuzz_target_file fuzz_oob \
-	    fuzz_workspace fuzz_template fuzz_import
+	    fuzz_workspace fuzz_template fuzz_import fuzz_bmp
 	fuzz/run-fuzzers.sh $(FUZZ_BUILD) $(FUZZ_SECONDS)
 
 # Line and branch coverage of the model, the game data and the writers by every test and the

@@ -15,16 +15,19 @@ build=$1
 seconds=$2
 shift 2
 here=$(cd "$(dirname "$0")" && pwd)
-targets=${*:-"tokenizer target_file oob workspace template import"}
+targets=${*:-"tokenizer target_file oob workspace template import bmp"}
 
 for target in $targets; do
     committed=$here/corpus/$target
     scratch=$build/fuzz-corpus/$target
     findings=$build/fuzz-findings/$target
+    # A binary format has a dictionary of its own; the text formats share one.
+    dict=$here/$target.dict
+    [ -f "$dict" ] || dict=$here/harnwick.dict
     mkdir -p "$committed" "$scratch" "$findings"
     echo "fuzz: $target for ${seconds}s"
     "$build/fuzz/fuzz_$target" "$scratch" "$committed" \
-        -dict="$here/harnwick.dict" -max_total_time="$seconds" \
+        -dict="$dict" -max_total_time="$seconds" \
         -timeout=2 -rss_limit_mb=2560 -malloc_limit_mb=256 \
         -artifact_prefix="$findings/" -print_final_stats=1 2>"$build/fuzz-$target.log" \
         || {
@@ -39,7 +42,7 @@ for target in $targets; do
         merged=$build/fuzz-merged/$target
         rm -rf "$merged" && mkdir -p "$merged"
         "$build/fuzz/fuzz_$target" -merge=1 -use_counters=0 "$merged" "$committed" "$scratch" \
-            -dict="$here/harnwick.dict" -timeout=2 -rss_limit_mb=2560 -malloc_limit_mb=256 \
+            -dict="$dict" -timeout=2 -rss_limit_mb=2560 -malloc_limit_mb=256 \
             2>"$build/fuzz-$target-merge.log"
         rm -f "$committed"/* && cp "$merged"/* "$committed"/
         echo "fuzz: $target: committed corpus now $(ls "$committed" | wc -l) files"

@@ -7,6 +7,7 @@ enum : int {
     RESULT_DONE = 0,
     RESULT_CANNOT_OPEN = 1,   // a file to read does not open
     RESULT_CANNOT_WRITE = 3,  // a file to write could not be written whole
+    RESULT_CANNOT_READ = 4,   // a file to read opens but holds nothing the reader can use
 };
 
 // What a write gives: RESULT_DONE, or another result with "<path>: <reason>" in error. It
