@@ -127,7 +127,7 @@ public:
             const std::uint32_t count = m_bytes.U8(at), value = m_bytes.U8(at + 1);
             at += 2;
             if (count > 0) {
-                for (std::uint32_t i = 0; i < count && x + i < width; ++i) {
+                for (std::uint32_t i = 0; i < count; ++i) {
                     put(x + i, four ? (i % 2 == 0 ? value >> 4 : value & 15) : value);
                 }
                 x += count;
@@ -148,7 +148,7 @@ public:
                 if (!m_bytes.Has(at, size)) {
                     break;
                 }
-                for (std::uint32_t i = 0; i < value && x + i < width; ++i) {
+                for (std::uint32_t i = 0; i < value; ++i) {
                     const std::uint32_t byte = m_bytes.U8(at + (four ? i / 2 : i));
                     put(x + i, four ? (i % 2 == 0 ? byte >> 4 : byte & 15) : byte);
                 }
@@ -166,7 +166,7 @@ private:
             const std::uint64_t bit = x * bits;
             const std::uint32_t byte = m_bytes.U8(at + bit / 8);
             const std::uint32_t shift = 8 - bits - static_cast<std::uint32_t>(bit % 8);
-            return Colour(byte >> shift & ((1u << bits) - 1)) | kOpaque;
+            return Colour(byte >> shift & ((1u << bits) - 1));
         }
         if (bits == 24) {
             const std::size_t p = at + x * 3;
@@ -234,7 +234,7 @@ CImageReadResult DecodeBmp(std::string_view data) {
     CLayout layout;
     std::uint64_t colours = 0;
     std::size_t entrySize = 4;
-    std::size_t paletteAt = kFileHeader + headerSize;
+    const std::size_t paletteAt = kFileHeader + headerSize;
     if (headerSize == 12) {
         layout.width = bytes.U16(18);
         layout.height = bytes.U16(20);
@@ -246,13 +246,11 @@ CImageReadResult DecodeBmp(std::string_view data) {
         layout.bits = bytes.U16(28);
         layout.compression = bytes.U32(30);
         colours = bytes.U32(46);
-        if (layout.compression == BI_BITFIELDS || layout.compression == BI_ALPHABITFIELDS) {
-            const std::size_t masksEnd =
-                kFileHeader + 40 + (layout.compression == BI_BITFIELDS ? 12 : 16);
-            if (!bytes.Has(0, masksEnd)) {
-                return Refuse("bit-field masks cut short");
-            }
-            paletteAt = std::max(paletteAt, masksEnd);
+        // Masks that follow a 40-byte header come before the pixels; only pictures of 8 bits
+        // and fewer have a palette, so it never follows them.
+        if ((layout.compression == BI_BITFIELDS || layout.compression == BI_ALPHABITFIELDS) &&
+            !bytes.Has(0, kFileHeader + 40 + (layout.compression == BI_BITFIELDS ? 12 : 16))) {
+            return Refuse("bit-field masks cut short");
         }
     }
     layout.topDown = layout.height < 0;
@@ -291,7 +289,8 @@ CImageReadResult DecodeBmp(std::string_view data) {
     }
     layout.pixelsAt = bytes.U32(10);
     if (layout.pixelsAt < kFileHeader + headerSize || layout.pixelsAt >= data.size()) {
-        return Refuse("pixel data offset " + std::to_string(layout.pixelsAt) + " outside the file");
+        return Refuse("pixel data offset " + std::to_string(layout.pixelsAt) +
+                      " not between the header and the file's end");
     }
     CImageReadResult result;
     result.image.width = static_cast<int>(layout.width);

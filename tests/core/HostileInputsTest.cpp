@@ -13,6 +13,7 @@
 #include "CaseFile.h"
 #include "TempFolder.h"
 #include "TestTrees.h"
+#include "base/BmpReader.h"
 #include "base/LineCut.h"
 #include "base/Result.h"
 #include "base/TextLines.h"
@@ -151,10 +152,29 @@ COutcome CutLines(const std::string& text, const CCase& c) {
     return {cut, ""};
 }
 
+// The picture's size and its pixels from the top row, runs of equal ones as n*word; or the
+// error, which must name the file.
+COutcome ReadBmp(const std::string& bytes, const CCase&) {
+    CTempFolder folder;
+    WriteBytes(folder / "in.bmp", bytes);
+    const CImageReadResult read = ReadBmpFile(folder / "in.bmp");
+    const CPixelImage& image = read.image;
+    std::string out = read.Done() ? Format("%dx%d", image.width, image.height)
+                                  : read.error.substr(folder.Path().size() + 1);
+    for (std::size_t i = 0, n = 1; i < image.pixels.size(); i += n, n = 1) {
+        while (i + n < image.pixels.size() && image.pixels[i + n] == image.pixels[i]) {
+            ++n;
+        }
+        out += (n > 1 ? Format(" %zu*", n) : " ") + Format("%08x", image.pixels[i]);
+    }
+    return {out, ""};
+}
+
 const std::map<std::string, CReader> kReaders = {
     {"oob", {ReadOob, true}},       {"template", {InsertTemplate, false}},
     {"target", {ReadTarget, true}}, {"workspace", {ReadWorkspace, false}},
     {"import", {Import, false}},    {"line-cut", {CutLines, false}},
+    {"bmp", {ReadBmp, false}},
 };
 
 void CheckRow(const CReader& reader, const CCase& c) {
@@ -233,6 +253,7 @@ TEST(HostileInputs, PathsThatAreNoFileAreRefused) {
                   RESULT_CANNOT_OPEN);
         EXPECT_EQ(ImportGameData(path, tree, IMPORT_REMOVE_MISSING), RESULT_CANNOT_OPEN);
         EXPECT_EQ(w.Load(path), RESULT_CANNOT_OPEN);
+        EXPECT_EQ(ReadBmpFile(path).error, path + ": cannot open the file");
     }
     EXPECT_EQ(Shape(tree), "kept");
     EXPECT_EQ(w.m_strTitle, "kept");

@@ -30,7 +30,7 @@ inline std::string Unescape(const std::string& text) {
 
 // The pieces up to the end of the line or a ")", run together, or only the next one: "text",
 // repeat N PIECE, noise N "banned" SEED (random bytes, none of them banned, the same on every run
-// for one seed) or ( PIECE ... ).
+// for one seed), le16 N, le32 N (N in 2 or 4 bytes, least significant first) or ( PIECE ... ).
 inline std::string Pieces(std::istream& in, bool one = false) {
     std::string out;
     while ((in >> std::ws).peek() != EOF && in.peek() != ')') {
@@ -42,7 +42,13 @@ inline std::string Pieces(std::istream& in, bool one = false) {
         } else if (in.peek() == '(') {
             in.ignore();
             out += Pieces(in);
-        } else if (in >> word >> n >> std::ws && word == "repeat") {
+        } else if (in >> word && (word == "le16" || word == "le32")) {
+            long long value = 0;  // a number as binary formats hold it
+            in >> value;
+            for (int i = 0; i < (word == "le16" ? 2 : 4); ++i) {
+                out += static_cast<char>(value >> 8 * i);
+            }
+        } else if (in >> n >> std::ws && word == "repeat") {
             const std::string piece = Pieces(in, true);
             for (std::size_t i = 0; i < n; ++i) {
                 out += piece;
