@@ -99,8 +99,8 @@ public:
                 Pixel(x, row) = pixel;
             }
         }
-        // Many writers leave the fourth byte of a 32-bit pixel 0: an image without any alpha
-        // is opaque, not invisible.
+        // Many writers leave the fourth byte of a 32-bit pixel 0: an image whose alpha is 0
+        // everywhere (or that has none) is opaque, not invisible.
         if (!anyAlpha) {
             for (std::uint64_t row = 0; row < rows; ++row) {
                 for (std::uint64_t x = 0; x < width; ++x) {
@@ -279,6 +279,7 @@ CImageReadResult DecodeBmp(std::string_view data) {
         if (!bytes.Has(paletteAt, colours * entrySize)) {
             return Refuse("palette outside the file");
         }
+        // The fourth byte of an entry is reserved, not alpha: palette colours are opaque.
         for (std::uint64_t i = 0; i < colours; ++i) {
             const std::size_t at = paletteAt + i * entrySize;
             layout.palette.push_back(kOpaque | bytes.U8(at + 2) << 16 | bytes.U8(at + 1) << 8 |
