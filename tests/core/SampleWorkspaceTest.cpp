@@ -7,6 +7,7 @@
 
 #include "SmallGameData.h"
 #include "TempFolder.h"
+#include "base/BmpReader.h"
 #include "base/Result.h"
 #include "base/TextLines.h"
 #include "base/TreeWalk.h"
@@ -14,6 +15,7 @@
 #include "gamedata/GameRecords.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
+#include "model/Workspace.h"
 
 namespace {
 
@@ -67,6 +69,23 @@ TEST(SampleWorkspace, EveryFileReadsCompletelyWithoutAQuestion) {
     }
     EXPECT_EQ(database.m_Types.Count(), types);
     EXPECT_EQ(prompts.m_warnings.size() + prompts.m_questions.size(), 0u);
+}
+
+// The five strips the workspace names read and hold whole cells of the game data's size for
+// each, more of them than an icon strip reserves.
+TEST_F(SampleWorkspace, PictureStripsHoldWholeCells) {
+    CWorkspace workspace;
+    ASSERT_EQ(workspace.Load(kSample + "harnwick.txt"), RESULT_DONE);
+    for (int i = 0; i < 5; ++i) {
+        const CImageReadResult strip = ReadBmpFile(kSample + workspace.m_strPicturePaths[i]);
+        ASSERT_TRUE(strip.Done()) << strip.error;
+        const int width = m_database.m_nCellSizes[2 * i],
+                  height = m_database.m_nCellSizes[2 * i + 1];
+        EXPECT_EQ(strip.image.width % width + strip.image.height % height, 0) << i;
+        const int reserved =
+            i < 2 ? 0 : m_database.IconOffset(i - 1) + m_database.IconTrailing(i - 1);
+        EXPECT_GT(strip.image.width / width * (strip.image.height / height), reserved) << i;
+    }
 }
 
 }  // namespace
