@@ -73,17 +73,17 @@ TEST(SampleWorkspace, EveryFileReadsCompletelyWithoutAQuestion) {
 
 // The five strips the workspace names read and hold whole cells of the game data's size for
 // each, more of them than an icon strip reserves.
-TEST_F(SampleWorkspace, PictureStripsHoldWholeCells) {
+TEST(SampleWorkspace, PictureStripsHoldWholeCells) {
+    CGameDatabase database;
+    ASSERT_EQ(database.Load(kSample + "valdoria.inf"), RESULT_DONE);
     CWorkspace workspace;
     ASSERT_EQ(workspace.Load(kSample + "harnwick.txt"), RESULT_DONE);
     for (int i = 0; i < 5; ++i) {
         const CImageReadResult strip = ReadBmpFile(kSample + workspace.m_strPicturePaths[i]);
         ASSERT_TRUE(strip.Done()) << strip.error;
-        const int width = m_database.m_nCellSizes[2 * i],
-                  height = m_database.m_nCellSizes[2 * i + 1];
+        const int width = database.m_nCellSizes[2 * i], height = database.m_nCellSizes[2 * i + 1];
         EXPECT_EQ(strip.image.width % width + strip.image.height % height, 0) << i;
-        const int reserved =
-            i < 2 ? 0 : m_database.IconOffset(i - 1) + m_database.IconTrailing(i - 1);
+        const int reserved = i < 2 ? 0 : database.IconOffset(i - 1) + database.IconTrailing(i - 1);
         EXPECT_GT(strip.image.width / width * (strip.image.height / height), reserved) << i;
     }
 }
