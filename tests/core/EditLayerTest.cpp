@@ -55,15 +55,6 @@ protected:
         return entries;
     }
 
-    // Copy or Cut now and then.
-    void RandomMark(std::mt19937& random) {
-        const std::vector<HTREEITEM> entries = Entries();
-        if (!entries.empty() && random() % 4 == 0) {
-            session.Mark(entries[random() % entries.size()],
-                         random() % 2 ? ClipMode::Copy : ClipMode::Cut);
-        }
-    }
-
     // One random command; it may change nothing (a move into its own subtree).
     void RandomCommand(std::mt19937& random) {
         const std::vector<HTREEITEM> entries = Entries();
@@ -128,7 +119,11 @@ protected:
             if (done == backupAt) {
                 session.MarkBackedUp();
             }
-            RandomMark(random);
+            const std::vector<HTREEITEM> entries = Entries();
+            if (!entries.empty() && random() % 4 == 0) {  // Copy or Cut now and then
+                session.Mark(entries[random() % entries.size()],
+                             random() % 2 ? ClipMode::Copy : ClipMode::Cut);
+            }
             CState found = State();
             RandomCommand(random);
             if (session.Edit().UndoCount() > done) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "TempFolder.h"
 #include "TestTrees.h"
 #include "base/TreeWalk.h"
 
@@ -107,7 +108,7 @@ public:
     void CaretChanged(HTREEITEM entry) override { Log("caret " + Name(entry)); }
     void ExpandChanged(HTREEITEM entry) override { Log("expand " + Name(entry)); }
 
-    std::vector<std::string> m_log;
+    std::string m_log;  // one line a notification
 
 private:
     std::string Name(HTREEITEM entry) const {
@@ -116,8 +117,8 @@ private:
                                               : std::string(entry->Label());
     }
     void Log(const std::string& what) {
-        m_log.push_back(what + " [" + std::to_string(m_tree.GetCount()) + "/" +
-                        std::to_string(m_destroyed) + "]");
+        m_log += what + " [" + std::to_string(m_tree.GetCount()) + "/" +
+                 std::to_string(m_destroyed) + "]\n";
     }
     const CTreeStore& m_tree;
     const int& m_destroyed;
@@ -140,23 +141,7 @@ TEST(TreeStore, ObserverSeesTheStoreBeforeAndAfterEveryChange) {
     tree.DeleteItem(a);
     tree.DeleteItem(TVI_ROOT);
     tree.SetObserver(nullptr);
-    const std::vector<std::string> expected = {
-        "before insert root 0 children 0 [0/0]",
-        "after insert A children 1 [1/0]",
-        "before insert A 0 children 0 [1/0]",
-        "after insert B children 1 [2/0]",
-        "before insert root 0 children 1 [2/0]",
-        "after insert C children 2 [3/0]",
-        "label B2 [3/0]",
-        "caret B2 [3/0]",
-        "expand A [3/0]",
-        "caret none [3/0]",
-        "before remove A [3/0]",
-        "after remove [1/2]",
-        "before reset [1/2]",
-        "after reset [0/2]",
-    };
-    EXPECT_EQ(observer.m_log, expected);
+    EXPECT_EQ(observer.m_log, ReadBytes(HW_TEST_DATA "/tree-observer.txt"));
 }
 
 // Neither the walk nor the delete recurses into the chain.
