@@ -11,9 +11,6 @@
 namespace {
 
 TEST_F(FileCommandsTest, LoadOfTheSampleWorkspaceShowsItsOrderOfBattle) {
-    const std::vector<std::string> expected =
-        LabelsOfFile(folder / "valdoria.oob", folder / "valdoria.inf");
-    ASSERT_GT(expected.size(), 20u);
     Run([&](CHeadlessUser& user, CMainDlg& main) {
         Load(user, folder / "harnwick.txt", [](CHeadlessUser& ws) {
             EXPECT_EQ(ws.Text(IDC_WS_TITLE), "Valdorian Campaign");
@@ -24,7 +21,8 @@ TEST_F(FileCommandsTest, LoadOfTheSampleWorkspaceShowsItsOrderOfBattle) {
             EXPECT_FALSE(ws.IsEnabled(IDC_WS_TARGET_PICK));
         });
         ExpectStatus(user, " ", "*");
-        EXPECT_EQ(Labels(main.m_tree), expected);
+        EXPECT_EQ(main.m_session.Document()->m_writer.ToText(main.m_tree),
+                  ReadBytes(folder / "valdoria.oob"));
         EXPECT_EQ(main.m_session.Workspace()->m_strPath, folder / "harnwick.txt");
     });
 }
@@ -97,9 +95,7 @@ TEST_F(FileCommandsTest, NewEmptyWritesTheSkeletonOfTheTargetAndShowsIt) {
                 EXPECT_TRUE(ws.IsEnabled(IDC_WS_OOB_PICK));
             });
         ExpectStatus(user, " ", "*");
-        EXPECT_EQ(Labels(main.m_tree),
-                  LabelsOfFile(folder / "expected.oob", folder / "valdoria.inf"));
-        EXPECT_EQ(main.m_tree.GetItemText(main.m_tree.GetRootItem()), "Army");
+        EXPECT_EQ(main.m_session.Document()->m_writer.ToText(main.m_tree), skeleton);
     });
     EXPECT_EQ(ui.FileDialogs()[1].initialDir, folder.Path());
     EXPECT_EQ(ReadBytes(folder / "fresh.oob"), skeleton);
@@ -111,6 +107,7 @@ TEST_F(FileCommandsTest, NewEmptyWritesTheSkeletonOfTheTargetAndShowsIt) {
 
 // Save writes only when the tree has changed; then it writes the order of battle and the
 // workspace, and the order-of-battle status alone becomes " ". New and Load offer it first.
+// Properties edits the open workspace and saves its file.
 TEST_F(FileCommandsTest, SaveWritesOnlyAChangedTree) {
     const std::string sample = ReadBytes(folder / "valdoria.oob");
     Run([&](CHeadlessUser& user, CMainDlg& main) {
@@ -147,7 +144,20 @@ TEST_F(FileCommandsTest, SaveWritesOnlyAChangedTree) {
         ui.CancelFileDialog();
         user.Command(ID_FILE_NEW_EMPTY);
         ExpectStatus(user, " ", "*");
+
+        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
+            EXPECT_FALSE(ws.IsEnabled(IDC_WS_OOB_PICK));
+            ws.Type(IDC_WS_TITLE, "Valdorian Campaign, second year");
+            ws.Click(IDC_WS_LEADER_FACES_ON);  // on: off, and its path forgotten
+            ws.Click(IDC_WS_ACCEPT);
+        });
+        user.Command(ID_FILE_PROPERTIES);
+        ExpectStatus(user, " ", "*");
     });
+    EXPECT_EQ(ReadBytes(folder / "harnwick.txt"),
+              WithReplaced(WithReplaced(ReadBytes(std::string(HW_SAMPLE_DIR) + "/harnwick.txt"),
+                                        "Valdorian Campaign|", "Valdorian Campaign, second year|"),
+                           "1|leaders.bmp|", "0|empty|"));
 }
 
 // The sample's attached order of battle names its file relative to the current folder. The
@@ -214,24 +224,6 @@ TEST_F(FileCommandsTest, SaveAsWritesTheWorkspaceUnderTheNewNameOnly) {
     EXPECT_EQ(ReadBytes(folder / "valdoria.oob"), sample);
     EXPECT_EQ(ui.Messages()[3].text.rfind("Cannot write " + folder / "missing/elsewhere.txt", 0),
               0u);
-}
-
-TEST_F(FileCommandsTest, PropertiesEditsTheOpenWorkspaceAndSavesItsFile) {
-    Run([&](CHeadlessUser& user, CMainDlg&) {
-        Load(user, folder / "harnwick.txt");
-        ui.OnDialog(IDD_WORKSPACE, [](CHeadlessUser& ws) {
-            EXPECT_FALSE(ws.IsEnabled(IDC_WS_OOB_PICK));
-            ws.Type(IDC_WS_TITLE, "Valdorian Campaign, second year");
-            ws.Click(IDC_WS_LEADER_FACES_ON);  // on: off, and its path forgotten
-            ws.Click(IDC_WS_ACCEPT);
-        });
-        user.Command(ID_FILE_PROPERTIES);
-        ExpectStatus(user, " ", "*");
-    });
-    EXPECT_EQ(ReadBytes(folder / "harnwick.txt"),
-              WithReplaced(WithReplaced(ReadBytes(std::string(HW_SAMPLE_DIR) + "/harnwick.txt"),
-                                        "Valdorian Campaign|", "Valdorian Campaign, second year|"),
-                           "1|leaders.bmp|", "0|empty|"));
 }
 
 // New, existing reads the chosen file, which must exist, and writes nothing. A unit of a type the

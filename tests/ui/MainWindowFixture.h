@@ -30,17 +30,6 @@ inline std::vector<std::string> Labels(const CTreeStore& tree) {
     return labels;
 }
 
-// What the core reads from an order-of-battle file with the given target file.
-inline std::vector<std::string> LabelsOfFile(const std::string& oobFile,
-                                             const std::string& target) {
-    CGameDatabase database;
-    database.Load(target);
-    COobDocument document(&database);
-    CTreeCtrl tree;
-    document.LoadTree(oobFile, tree);
-    return Labels(tree);
-}
-
 inline std::string WithReplaced(std::string text, const std::string& from, const std::string& to) {
     const auto at = text.find(from);
     EXPECT_NE(at, std::string::npos) << from;
