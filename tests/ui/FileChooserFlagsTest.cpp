@@ -46,5 +46,6 @@ TEST_F(FileCommandsTest, LoadOfAMissingWorkspaceShowsTheDefaults) {
         user.Command(ID_FILE_LOAD);
         ExpectStatus(user, "-", "-");
     });
+    EXPECT_TRUE(ui.FileDialogs()[0].open);
 }
 }  // namespace

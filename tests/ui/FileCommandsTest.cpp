@@ -97,6 +97,7 @@ TEST_F(FileCommandsTest, NewEmptyWritesTheSkeletonOfTheTargetAndShowsIt) {
         ExpectStatus(user, " ", "*");
         EXPECT_EQ(main.m_session.Document()->m_writer.ToText(main.m_tree), skeleton);
     });
+    EXPECT_FALSE(ui.FileDialogs()[0].open || ui.FileDialogs()[1].open);  // new names
     EXPECT_EQ(ui.FileDialogs()[1].initialDir, folder.Path());
     EXPECT_EQ(ReadBytes(folder / "fresh.oob"), skeleton);
     EXPECT_EQ(ReadBytes(folder / "new.txt"),
@@ -196,6 +197,7 @@ TEST_F(FileCommandsTest, NewAttachedWithAMissingFileLeavesNoWorkspace) {
         ExpectStatus(user, "-", "-");
         EXPECT_EQ(main.m_tree.GetCount(), 0u);
         EXPECT_EQ(main.m_session.Workspace(), nullptr);
+        EXPECT_EQ(main.m_session.Database(), nullptr);
         EXPECT_EQ(main.m_session.Mark(), CClipMark{});
         EXPECT_EQ(user.Text(IDC_MARKED_CAPTION), "Marked item");
     });
