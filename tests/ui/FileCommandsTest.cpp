@@ -162,37 +162,31 @@ TEST_F(FileCommandsTest, SaveWritesOnlyAChangedTree) {
 }
 
 // The sample's attached order of battle names its file relative to the current folder. The
-// copy is byte for byte: CR LF and bare LF lines, a last line without a line end.
-TEST_F(FileCommandsTest, NewAttachedCopiesTheChosenFileByteForByte) {
+// copy is byte for byte: CR LF and bare LF lines, a last line without a line end. A missing
+// attached file: the message naming it, then no workspace at all, the state the window starts
+// in (whose test shows every workspace command inactive); the new workspace file stays on disk.
+TEST_F(FileCommandsTest, NewAttachedCopiesTheChosenFileOrLeavesNoWorkspace) {
     const std::string odd = "3\r\nA Odd Army\n\tBegin\r\n\tEnd\r\nDEP 6 0 Last depot";
     WriteBytes(folder / "frontier.oob", odd);
     WriteBytes(folder / "copy.oob", "an older file, much longer than the copy\r\n");
+    WriteBytes(folder / "broken.inf",
+               WithReplaced(ReadBytes(folder / "valdoria.inf"), "frontier.oob|", "lost/gone.oob|"));
     Run([&](CHeadlessUser& user, CMainDlg& main) {
-        ui.OnDialog(IDD_ATTACHED, [](CHeadlessUser& attached) {
+        const Script pick = [](CHeadlessUser& attached) {
             EXPECT_EQ(attached.Lines(IDC_CHOICE_LIST).GetCount(), 1);
             EXPECT_EQ(attached.Lines(IDC_CHOICE_LIST).GetText(0), "Frontier Skirmish");
             attached.Click(IDC_CHOICE_ACCEPT);
-        });
+        };
+        ui.OnDialog(IDD_ATTACHED, pick);
         New(user, ID_FILE_NEW_ATTACHED, folder / "attached.txt", folder / "copy.oob",
             "valdoria.inf");
         ExpectStatus(user, " ", "*");
         EXPECT_EQ(Labels(main.m_tree), (std::vector<std::string>{"Odd Army"}));
-    });
-    EXPECT_EQ(ReadBytes(folder / "copy.oob"), odd);
-}
 
-// A missing attached file: the message naming it, then no workspace at all: both fields "-",
-// an empty tree, and no workspace, game data or document, the state the window starts in (whose
-// test shows every workspace command inactive). The new workspace file stays on disk.
-TEST_F(FileCommandsTest, NewAttachedWithAMissingFileLeavesNoWorkspace) {
-    WriteBytes(folder / "broken.inf",
-               WithReplaced(ReadBytes(folder / "valdoria.inf"), "frontier.oob|", "lost/gone.oob|"));
-    Run([&](CHeadlessUser& user, CMainDlg& main) {
-        Load(user, folder / "harnwick.txt");
         main.m_session.Mark(main.m_tree.GetRootItem(), ClipMode::Copy);
         main.UpdateData(false);
-        ui.OnDialog(IDD_ATTACHED, [](CHeadlessUser& attached) { attached.Enter(); });
-        New(user, ID_FILE_NEW_ATTACHED, folder / "attached.txt", folder / "copy.oob",
+        ui.OnDialog(IDD_ATTACHED, pick);
+        New(user, ID_FILE_NEW_ATTACHED, folder / "lost.txt", folder / "lost.oob",
             folder / "broken.inf", {"Bad or missing lost/gone.oob file!"});
         ExpectStatus(user, "-", "-");
         EXPECT_EQ(main.m_tree.GetCount(), 0u);
@@ -201,8 +195,9 @@ TEST_F(FileCommandsTest, NewAttachedWithAMissingFileLeavesNoWorkspace) {
         EXPECT_EQ(main.m_session.Mark(), CClipMark{});
         EXPECT_EQ(user.Text(IDC_MARKED_CAPTION), "Marked item");
     });
-    EXPECT_TRUE(std::filesystem::exists(folder / "attached.txt"));
-    EXPECT_FALSE(std::filesystem::exists(folder / "copy.oob"));
+    EXPECT_EQ(ReadBytes(folder / "copy.oob"), odd);
+    EXPECT_TRUE(std::filesystem::exists(folder / "lost.txt"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "lost.oob"));
 }
 
 TEST_F(FileCommandsTest, SaveAsWritesTheWorkspaceUnderTheNewNameOnly) {
