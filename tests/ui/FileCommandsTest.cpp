@@ -10,7 +10,13 @@
 
 namespace {
 
-TEST_F(FileCommandsTest, LoadOfTheSampleWorkspaceShowsItsOrderOfBattle) {
+// Load shows the sample's order of battle. A No, a cancelled chooser or a cancelled "Workspace
+// Properties" at any step then leaves the open workspace, its tree and the status fields as they
+// were; so does New attached with a target file that lists no attached order of battle to base
+// the new one on.
+TEST_F(FileCommandsTest, LoadShowsTheWorkspaceAndACancelledStepKeepsIt) {
+    WriteBytes(folder / "none.inf", WithReplaced(ReadBytes(folder / "valdoria.inf"),
+                                                 "\tfrontier.oob|Frontier Skirmish|\r\n", ""));
     Run([&](CHeadlessUser& user, CMainDlg& main) {
         Load(user, folder / "harnwick.txt", [](CHeadlessUser& ws) {
             EXPECT_EQ(ws.Text(IDC_WS_TITLE), "Valdorian Campaign");
@@ -20,23 +26,12 @@ TEST_F(FileCommandsTest, LoadOfTheSampleWorkspaceShowsItsOrderOfBattle) {
             EXPECT_FALSE(ws.IsEnabled(IDC_WS_OOB_PICK));
             EXPECT_FALSE(ws.IsEnabled(IDC_WS_TARGET_PICK));
         });
-        ExpectStatus(user, " ", "*");
         EXPECT_EQ(main.m_session.Document()->m_writer.ToText(main.m_tree),
                   ReadBytes(folder / "valdoria.oob"));
-        EXPECT_EQ(main.m_session.Workspace()->m_strPath, folder / "harnwick.txt");
-    });
-}
-
-// A No, a cancelled chooser or a cancelled "Workspace Properties" at any step leaves the open
-// workspace, its tree and the status fields as they were; so does New attached with a target
-// file that lists no attached order of battle to base the new one on.
-TEST_F(FileCommandsTest, ACancelledStepKeepsTheCurrentWorkspace) {
-    WriteBytes(folder / "none.inf", WithReplaced(ReadBytes(folder / "valdoria.inf"),
-                                                 "\tfrontier.oob|Frontier Skirmish|\r\n", ""));
-    Run([&](CHeadlessUser& user, CMainDlg& main) {
-        Load(user, folder / "harnwick.txt");
         const CWorkspace* workspace = main.m_session.Workspace();
+        ASSERT_EQ(workspace->m_strPath, folder / "harnwick.txt");
         const std::vector<std::string> labels = Labels(main.m_tree);
+        ExpectStatus(user, " ", "*");
         // The command's question answered No, or Yes and its first file chooser cancelled.
         auto answered = [&](int command, const char* question, bool yes) -> Script {
             return [=, this](CHeadlessUser& u) {
