@@ -83,26 +83,29 @@ TEST(CrashSave, AKilledSaveLeavesTheOldOrTheNewFile) {
     const std::string bytes = ReadBytes(path);
     ASSERT_GT(bytes.size(), 300000u);
 
-    std::vector<Clock::duration> runs;
-    for (int i = 0; i < 5; ++i) {
-        runs.push_back(SaveInChild(document, tree, path, std::nullopt).elapsed);
-        WriteBytes(path, old);
-    }
-    const Clock::duration run = *std::min_element(runs.begin(), runs.end());
-
-    // The kills spread over the first four fifths of the quickest save, so that most of them
-    // land before the save ends, while some still come after the rename.
+    // The kills spread over the first four fifths of the quickest of five saves, so that most of
+    // them land before the save ends, while some still come after the rename. A round timed
+    // while the machine was busy lets the saves outrun the kills: it is timed and run again.
     int landed = 0;
-    for (int i = 0; i < kKills; ++i) {
-        const CSaveRun killed = SaveInChild(document, tree, path, run * 4 * i / (5 * kKills));
-        const std::string found = ReadBytes(path);
-        EXPECT_TRUE(found == old || found == bytes) << "kill " << i << " left " << found.size();
-        landed += killed.killed;
-        // A killed save leaves its temporary file; the next save starts from the old file.
-        for (const std::string& name : folder.Names()) {
-            std::filesystem::remove(folder / name);
+    for (int round = 0; round < 3 && landed < kKills / 2; ++round) {
+        std::vector<Clock::duration> runs;
+        for (int i = 0; i < 5; ++i) {
+            runs.push_back(SaveInChild(document, tree, path, std::nullopt).elapsed);
+            WriteBytes(path, old);
         }
-        WriteBytes(path, old);
+        const Clock::duration run = *std::min_element(runs.begin(), runs.end());
+        landed = 0;
+        for (int i = 0; i < kKills; ++i) {
+            const CSaveRun killed = SaveInChild(document, tree, path, run * 4 * i / (5 * kKills));
+            const std::string found = ReadBytes(path);
+            EXPECT_TRUE(found == old || found == bytes) << "kill " << i << " left " << found.size();
+            landed += killed.killed;
+            // A killed save leaves its temporary file; the next save starts from the old file.
+            for (const std::string& name : folder.Names()) {
+                std::filesystem::remove(folder / name);
+            }
+            WriteBytes(path, old);
+        }
     }
     EXPECT_GE(landed, kKills / 2) << "the saves ended before most kills";
 }
