@@ -7,6 +7,7 @@
 #include "dialogs/GunboatDlg.h"
 #include "dialogs/LeaderDlg.h"
 #include "dialogs/SupplyDlg.h"
+#include "dialogs/UnitDlg.h"
 #include "model/LeaderItem.h"
 #include "platform/MessageBox.h"
 
@@ -21,6 +22,8 @@ std::unique_ptr<COobItem> RunEditor(CGameDatabase& database, const Item& item) {
 std::unique_ptr<COobItem> EditItem(CGameDatabase& database, const CTreeStore& tree,
                                    const COobItem& item) {
     switch (item.m_nType) {
+        case TYPE_UNIT:
+            return RunEditor<CUnitDlg>(database, static_cast<const CUnitItem&>(item));
         case TYPE_LEADER:
             // The position shown is the leader's place among the leaders in tree order.
             NumberLeaders(tree);

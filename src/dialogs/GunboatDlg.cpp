@@ -1,8 +1,8 @@
 #include "dialogs/GunboatDlg.h"
 
-#include <algorithm>
 #include <cstdlib>
 
+#include "dialogs/FightingFields.h"
 #include "gamedata/GameDatabase.h"
 #include "platform/DataExchange.h"
 #include "resources/ResourceIds.h"
@@ -76,31 +76,12 @@ void CGunboatDlg::Reset() {
     UpdateData(false);
 }
 
-// The modifier follows the Quality and Fanatic fields, so a fanatic quality of 0, which the
-// item cannot hold, still shows the bonus.
 void CGunboatDlg::Recompute() {
-    double modifier = 0.0;
-    const CBaseTypeRecord* base = m_copy.m_pBaseType;
-    if (base && m_copy.m_pType && m_copy.m_pWeapon) {
-        modifier =
-            (static_cast<double>(m_nQuality) - base->m_nBaseQuality) * base->m_dQualityFactor +
-            m_copy.m_pWeapon->m_dCostModifier + m_copy.m_pType->m_dCostModifier + 1.0;
-        if (m_nFanatic == 1) {
-            modifier += m_database.m_dFanaticBonus;
-        }
-    }
-    ShowFigures(modifier, m_copy.Cost());
-}
-
-// A base type without men per strength point counts the field as strength points.
-int CGunboatDlg::MenPerPoint() const {
-    const int men = m_copy.m_pBaseType ? m_copy.m_pBaseType->m_nMenPerPoint : 1;
-    return men > 0 ? men : 1;
+    ShowFigures(FieldModifier(m_copy, m_nQuality, m_nFanatic, m_database), m_copy.Cost());
 }
 
 void CGunboatDlg::ShowStrength() {
-    const int points = m_copy.m_nStrength;
-    m_nStrength = ShownNumber(m_nShowPoints == 1 ? points : points * MenPerPoint());
+    m_nStrength = ShownStrength(m_copy.m_nStrength, m_copy.m_pBaseType, m_nShowPoints);
 }
 
 void CGunboatDlg::OnWeaponSelected() {
@@ -114,14 +95,7 @@ void CGunboatDlg::OnWeaponSelected() {
 
 void CGunboatDlg::OnStrengthChanged() {
     UpdateData(true);
-    int points = static_cast<std::int16_t>(m_nStrength);
-    if (m_nShowPoints == 0) {
-        points /= MenPerPoint();
-    }
-    if (m_copy.m_pBaseType) {
-        points = std::min(points, static_cast<int>(m_copy.m_pBaseType->m_nMaxStrength));
-    }
-    m_copy.m_nStrength = static_cast<std::int16_t>(points);
+    m_copy.m_nStrength = TakenStrength(m_nStrength, m_copy.m_pBaseType, m_nShowPoints);
     ShowStrength();
     Recompute();
     UpdateData(false);
@@ -129,11 +103,7 @@ void CGunboatDlg::OnStrengthChanged() {
 
 void CGunboatDlg::OnQualityChanged() {
     UpdateData(true);
-    int quality = static_cast<std::int16_t>(m_nQuality);
-    quality = std::min(std::max(quality, static_cast<int>(m_database.m_nMinQuality)),
-                       static_cast<int>(m_database.m_nMaxQuality));
-    m_nQuality = ShownNumber(quality);
-    m_copy.m_nQuality = static_cast<std::int16_t>(m_nFanatic == 1 ? -quality : quality);
+    m_copy.m_nQuality = TakenQuality(m_nQuality, m_database, m_nFanatic);
     Recompute();
     UpdateData(false);
 }

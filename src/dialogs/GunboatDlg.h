@@ -26,7 +26,6 @@ protected:
 
 private:
     void Recompute();
-    int MenPerPoint() const;
     void ShowStrength();
     void OnWeaponSelected();
     void OnStrengthChanged();

@@ -56,6 +56,7 @@ const CDialogTemplate& DialogResource(int id) {
     static const CDialogTemplate unitClass = MakeUnitClassDialog();
     static const CDialogTemplate find = MakeFindDialog();
     static const CDialogTemplate addList = MakeAddListDialog();
+    static const CDialogTemplate unit = MakeUnitDialog();
     static const CDialogTemplate leader = MakeLeaderDialog();
     static const CDialogTemplate supply = MakeSupplyDialog();
     static const CDialogTemplate gunboat = MakeGunboatDialog();
@@ -74,6 +75,8 @@ const CDialogTemplate& DialogResource(int id) {
             return find;
         case IDD_ADD_LIST:
             return addList;
+        case IDD_UNIT:
+            return unit;
         case IDD_LEADER:
             return leader;
         case IDD_SUPPLY:

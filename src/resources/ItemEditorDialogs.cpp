@@ -1,4 +1,5 @@
-// "Edit leader", "Edit supply" and "Edit gunboat". Positions and sizes are in dialog units.
+// "Edit unit", "Edit leader", "Edit supply" and "Edit gunboat". Positions and sizes are in dialog
+// units.
 #include "resources/ItemEditorDialogs.h"
 
 #include "resources/ResourceIds.h"
@@ -22,8 +23,8 @@ void AddNumberRow(std::vector<CControlTemplate>& controls, int y, const char* la
 }
 
 // The picker beside the number on the row at y.
-void AddPicker(std::vector<CControlTemplate>& controls, int y) {
-    controls.push_back({IDC_ITEM_PICTURE_PICK, K::Button, kFieldX + 47, y, 19, 12, "..."});
+void AddPicker(std::vector<CControlTemplate>& controls, int y, int id = IDC_ITEM_PICTURE_PICK) {
+    controls.push_back({id, K::Button, kFieldX + 47, y, 19, 12, "..."});
 }
 
 // The cost modifier and cost on the row at y, the buttons below them, the hidden "+" that takes
@@ -49,7 +50,32 @@ CDialogTemplate Make(int id, const char* caption, std::vector<CControlTemplate> 
     return CDialogTemplate{
         .id = id, .caption = caption, .cx = kWidth, .cy = height, .controls = std::move(controls)};
 }
+// The strength row with its display switch and the quality row with the fanatic mark.
+void AddFightingRows(std::vector<CControlTemplate>& controls, int y) {
+    AddNumberRow(controls, y, "Strength", IDC_ITEM_STRENGTH);
+    controls.push_back({IDC_ITEM_SHOW_POINTS, K::CheckBox, kFieldX + 50, y + 1, 101, 10,
+                        "Show \"Stregth Points\""});
+    AddNumberRow(controls, y + 16, "Quality", IDC_ITEM_QUALITY);
+    controls.push_back(
+        {IDC_ITEM_FANATIC, K::CheckBox, kFieldX + 50, y + 17, 101, 10, "Fanatic unit"});
+}
 }  // namespace
+
+CDialogTemplate MakeUnitDialog() {
+    std::vector<CControlTemplate> controls;
+    AddRow(controls, 7, "Name", IDC_ITEM_NAME, K::Edit, 151);
+    AddRow(controls, 23, "Base type", IDC_ITEM_BASE_TYPE, K::ComboBox, 151);
+    AddRow(controls, 39, "Type", IDC_ITEM_TYPE, K::ComboBox, 151);
+    AddRow(controls, 55, "Weapon", IDC_ITEM_WEAPON, K::ComboBox, 151);
+    AddFightingRows(controls, 71);
+    AddNumberRow(controls, 103, "Picture", IDC_ITEM_PICTURE);
+    AddPicker(controls, 103);
+    controls.push_back({IDC_ITEM_RESERVED_LABEL, K::Static, kLabelX, 121, 52, 8, "Reserved"});
+    controls.push_back({IDC_ITEM_RESERVED, K::Edit, kFieldX, 119, 44, 12, "", STYLE_DIGITS});
+    AddNumberRow(controls, 135, "Icon", IDC_ITEM_ICON);
+    AddPicker(controls, 135, IDC_ITEM_ICON_PICK);
+    return Make(IDD_UNIT, "Edit unit", std::move(controls), 155);
+}
 
 CDialogTemplate MakeLeaderDialog() {
     std::vector<CControlTemplate> controls;
@@ -75,11 +101,7 @@ CDialogTemplate MakeGunboatDialog() {
     std::vector<CControlTemplate> controls;
     AddRow(controls, 7, "Name", IDC_ITEM_NAME, K::Edit, 151);
     AddRow(controls, 23, "Weapon", IDC_ITEM_WEAPON, K::ComboBox, 151);
-    AddNumberRow(controls, 39, "Strength", IDC_ITEM_STRENGTH);
-    controls.push_back(
-        {IDC_ITEM_SHOW_POINTS, K::CheckBox, kFieldX + 50, 40, 101, 10, "Show \"Stregth Points\""});
-    AddNumberRow(controls, 55, "Quality", IDC_ITEM_QUALITY);
-    controls.push_back({IDC_ITEM_FANATIC, K::CheckBox, kFieldX + 50, 56, 101, 10, "Fanatic unit"});
+    AddFightingRows(controls, 39);
     AddNumberRow(controls, 71, "Picture", IDC_ITEM_PICTURE);
     AddPicker(controls, 71);
     return Make(IDD_GUNBOAT, "Edit gunboat", std::move(controls), 91);

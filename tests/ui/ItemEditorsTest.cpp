@@ -28,6 +28,11 @@ std::string Figures(const CHeadlessUser& dlg) {
     return dlg.Text(IDC_ITEM_MODIFIER) + "| " + dlg.Text(IDC_ITEM_COST);
 }
 
+std::string Selected(const CHeadlessUser& dlg, int listId) {
+    const CLineStore& lines = dlg.Lines(listId);
+    return lines.GetText(lines.GetCurSel());
+}
+
 class ItemEditorsTest : public MainWindowTest {
 protected:
     // Loads the sample and selects the entry labelled label.
@@ -211,3 +216,37 @@ TEST_F(ItemEditorsTest, EnterTogglesStructuresOnly) {
 }
 
 }  // namespace
+
+TEST_F(ItemEditorsTest, UnitFanaticStrengthInMenAndBaseTypeOfAnotherClass) {
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        const HTREEITEM entry = Select(user, main, "Queen's Own Chasseurs");
+        ui.OnDialog(IDD_UNIT, [&](CHeadlessUser& dlg) {
+            EXPECT_FALSE(dlg.IsVisible(IDC_ITEM_RESERVED));  // format variant 1
+            EXPECT_EQ(dlg.Text(IDC_ITEM_QUALITY) + dlg.Text(IDC_ITEM_STRENGTH), "82800");
+            EXPECT_EQ(dlg.Check(IDC_ITEM_FANATIC), 1);
+            EXPECT_EQ(dlg.Lines(IDC_ITEM_BASE_TYPE).GetCount(), 3);
+            EXPECT_EQ(Figures(dlg), "2 | 8400 ");
+            dlg.Click(IDC_ITEM_FANATIC);
+            EXPECT_EQ(Figures(dlg), "1.5 | 6300 ");
+            dlg.Type(IDC_ITEM_STRENGTH, "1250");  // men: 12 strength points
+            dlg.Enter();
+            EXPECT_EQ(dlg.Text(IDC_ITEM_STRENGTH), "1200");
+            EXPECT_EQ(Figures(dlg), "1.5 | 2700 ");
+            dlg.Pick(IDC_ITEM_BASE_TYPE, "Cavalry");
+            EXPECT_EQ(Selected(dlg, IDC_ITEM_TYPE) + "/" + Selected(dlg, IDC_ITEM_WEAPON),
+                      "Dragoons/Short carbine");
+            EXPECT_EQ(Figures(dlg), "1.23 | 2214 ");
+            dlg.Click(IDC_ITEM_ACCEPT);
+        });
+        user.DoubleClick(IDC_TREE, entry);
+        EXPECT_EQ(LineOf(main.m_tree, entry),
+                  "U 12 8 Dragoons Carbine 3 0 4 Queen's Own Chasseurs");
+        main.m_session.Database()->m_nFormatVariant = 2;
+        ui.OnDialog(IDD_UNIT, [](CHeadlessUser& dlg) {
+            EXPECT_TRUE(dlg.IsVisible(IDC_ITEM_RESERVED));
+            EXPECT_FALSE(dlg.IsEnabled(IDC_ITEM_RESERVED));
+            dlg.Escape();
+        });
+        user.Command(ID_EDIT_PROPERTIES);
+    });
+}
