@@ -3,7 +3,6 @@
 // (README.md lists them as not yet available).
 #include "app/MainDlg.h"
 
-void CMainDlg::OnItemProperties() {}
 void CMainDlg::OnCopy() {}
 void CMainDlg::OnCut() {}
 void CMainDlg::OnAddNext(int) {}
@@ -16,8 +15,6 @@ void CMainDlg::OnDeleteItem() {}
 void CMainDlg::OnDeleteChildren() {}
 void CMainDlg::OnSaveItemToFile() {}
 void CMainDlg::OnSaveAsTemplate() {}
-void CMainDlg::OnEnterKey() {}
-void CMainDlg::OnTreeDblClick() {}
 bool CMainDlg::OnRenameEntry(HTREEITEM, const std::string*) {
     return false;
 }

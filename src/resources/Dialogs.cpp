@@ -1,5 +1,6 @@
 // The dialog templates by id. Positions and sizes are in dialog units.
 #include "platform/MessageBox.h"
+#include "resources/ItemEditorDialogs.h"
 #include "resources/ResourceIds.h"
 #include "resources/Resources.h"
 #include "resources/SmallDialogs.h"
@@ -55,6 +56,10 @@ const CDialogTemplate& DialogResource(int id) {
     static const CDialogTemplate unitClass = MakeUnitClassDialog();
     static const CDialogTemplate find = MakeFindDialog();
     static const CDialogTemplate addList = MakeAddListDialog();
+    static const CDialogTemplate unit = MakeUnitDialog();
+    static const CDialogTemplate leader = MakeLeaderDialog();
+    static const CDialogTemplate supply = MakeSupplyDialog();
+    static const CDialogTemplate gunboat = MakeGunboatDialog();
     switch (id) {
         case IDD_ABOUTBOX:
             return aboutBox;
@@ -70,6 +75,14 @@ const CDialogTemplate& DialogResource(int id) {
             return find;
         case IDD_ADD_LIST:
             return addList;
+        case IDD_UNIT:
+            return unit;
+        case IDD_LEADER:
+            return leader;
+        case IDD_SUPPLY:
+            return supply;
+        case IDD_GUNBOAT:
+            return gunboat;
         default:
             MissingResource("dialog", id);
     }

@@ -10,7 +10,11 @@ enum : int {
     IDD_ATTACHED = 104,
     IDD_UNIT_CLASS = 105,
     IDD_FIND = 106,
+    IDD_UNIT = 109,
     IDD_ADD_LIST = 115,
+    IDD_LEADER = 116,
+    IDD_SUPPLY = 117,
+    IDD_GUNBOAT = 123,
     IDR_MAINFRAME = 128,  // the program's icon
     IDR_MAINMENU = 129,
 };
@@ -64,6 +68,36 @@ enum : int {
     IDC_CLASS_CAVALRY = 1028,
     IDC_CLASS_ARTILLERY = 1029,
     IDC_CLASS_LINE = 1030,
+};
+
+// Controls of the item editors: "Edit unit" (109), "Edit leader" (116), "Edit supply" (117),
+// "Edit gunboat" (123).
+// The hidden default button is IDC_ENTER.
+enum : int {
+    IDC_ITEM_COST = 1039,
+    IDC_ITEM_NAME = 1040,
+    IDC_ITEM_COMMAND = 1041,
+    IDC_ITEM_TYPE = 1041,
+    IDC_ITEM_WEAPON = 1042,
+    IDC_ITEM_STRENGTH = 1043,
+    IDC_ITEM_BASE_TYPE = 1044,
+    IDC_ITEM_QUALITY = 1045,
+    IDC_ITEM_PICTURE = 1046,
+    IDC_ITEM_ICON = 1047,
+    IDC_ITEM_PICTURE_PICK = 1048,
+    IDC_ITEM_ICON_PICK = 1049,
+    IDC_ITEM_MODIFIER = 1050,
+    IDC_ITEM_FANATIC = 1051,
+    IDC_ITEM_SHOW_POINTS = 1052,
+    IDC_ITEM_LEADERSHIP = 1055,
+    IDC_ITEM_THIRD = 1056,
+    IDC_ITEM_RESERVED = 1056,
+    IDC_ITEM_POSITION = 1057,
+    IDC_ITEM_SUPPLY = 1058,
+    IDC_ITEM_RESERVED_LABEL = 1073,
+    IDC_ITEM_CANCEL = 1021,
+    IDC_ITEM_RESET = 1022,
+    IDC_ITEM_ACCEPT = 1026,
 };
 
 // Menu commands.

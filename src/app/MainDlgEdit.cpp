@@ -1,0 +1,84 @@
+// Opening an item's editor from Edit, Properties, a double click or Shift+Enter, and Enter on
+// the tree. An accepted editor's item replaces the entry's through the edit layer: one step of
+// the history, the label and status fields following.
+#include <memory>
+
+#include "app/MainDlg.h"
+#include "dialogs/GunboatDlg.h"
+#include "dialogs/LeaderDlg.h"
+#include "dialogs/SupplyDlg.h"
+#include "dialogs/UnitDlg.h"
+#include "model/LeaderItem.h"
+#include "platform/MessageBox.h"
+
+namespace {
+template <typename Editor, typename Item>
+std::unique_ptr<COobItem> RunEditor(CGameDatabase& database, const Item& item) {
+    Editor editor(database, item);
+    return editor.DoModal() == 1 ? editor.TakeEdited() : nullptr;
+}
+
+// The edited item, or none when the item has no editor yet or the editor was not accepted.
+std::unique_ptr<COobItem> EditItem(CGameDatabase& database, const CTreeStore& tree,
+                                   const COobItem& item) {
+    switch (item.m_nType) {
+        case TYPE_UNIT:
+            return RunEditor<CUnitDlg>(database, static_cast<const CUnitItem&>(item));
+        case TYPE_LEADER:
+            // The position shown is the leader's place among the leaders in tree order.
+            NumberLeaders(tree);
+            return RunEditor<CLeaderDlg>(database, static_cast<const CLeaderItem&>(item));
+        case TYPE_SUPPLY:
+            return RunEditor<CSupplyDlg>(database, static_cast<const CSupplyItem&>(item));
+        case TYPE_DEPOT: {
+            const auto& depot = static_cast<const CDepotItem&>(item);
+            const CSupplyItem supply = SupplyOfDepot(depot);
+            std::unique_ptr<COobItem> edited = RunEditor<CSupplyDlg>(database, supply);
+            return edited ? DepotOfSupply(depot, *edited) : nullptr;
+        }
+        case TYPE_GUNBOAT:
+            return RunEditor<CGunboatDlg>(database, static_cast<const CGunboatItem&>(item));
+        default:
+            return nullptr;
+    }
+}
+
+bool IsContainer(const COobItem* item) {
+    return item && (item->m_nType == TYPE_STRUCTURE || item->m_nType == TYPE_ARMY);
+}
+}  // namespace
+
+void CMainDlg::OnItemProperties() {
+    const HTREEITEM entry = m_tree.GetSelectedItem();
+    const COobItem* item = entry ? ItemOf(m_tree, entry) : nullptr;
+    if (!m_session.IsOpen() || !item) {
+        return;
+    }
+    std::unique_ptr<COobItem> edited = EditItem(*m_session.Database(), m_tree, *item);
+    if (edited) {
+        m_session.Edit().ReplaceFields(entry, std::move(edited));
+        UpdateData(false);
+    }
+}
+
+// Structures and armies open and close on a double click, which the tree does itself.
+void CMainDlg::OnTreeDblClick() {
+    const HTREEITEM entry = m_tree.GetSelectedItem();
+    if (m_session.IsOpen() && entry && !IsContainer(ItemOf(m_tree, entry))) {
+        OnItemProperties();
+    }
+}
+
+void CMainDlg::OnEnterKey() {
+    if (!m_session.IsOpen()) {
+        return;
+    }
+    if (GetKeyState(VK_SHIFT) < 0) {
+        OnItemProperties();
+        return;
+    }
+    const HTREEITEM entry = m_tree.GetSelectedItem();
+    if (entry && IsContainer(ItemOf(m_tree, entry))) {
+        m_session.ViewStore().Expand(entry, TVE_TOGGLE);
+    }
+}

@@ -1,0 +1,48 @@
+// What the leader, supply and gunboat editors share: a working copy edited by the fields, the
+// cost modifier and cost shown after every change, Reset, Cancel, and Enter moving the focus to
+// Accept so that it commits the field being typed without closing the dialog. Accept leaves the
+// edited item as a changed clone for the caller to hand to the edit layer; the item itself is
+// never touched.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/Dialog.h"
+
+class CGameDatabase;
+class COobItem;
+
+class CItemEditorDlg : public CDialog {
+public:
+    // The item as Accept left it; none after Cancel, Escape or the close box.
+    std::unique_ptr<COobItem> TakeEdited() { return std::move(m_pEdited); }
+
+    std::string m_strModifier = "0";
+    std::string m_strCost = "0";
+
+protected:
+    CItemEditorDlg(int dialogId, CGameDatabase& database);
+
+    void OnCancel() override { EndDialog(0); }
+    void DoDataExchange(CDataExchange* pDX) override;
+
+    // Fills the working copy from the item and writes the fields.
+    virtual void Reset() = 0;
+    void ShowFigures(double modifier, double cost);
+    // Closes with 1, keeping edited for TakeEdited.
+    void Finish(std::unique_ptr<COobItem> edited);
+
+    CGameDatabase& m_database;
+
+private:
+    std::unique_ptr<COobItem> m_pEdited;
+};
+
+// The name, kind and records of from, as the editors copy them.
+void CopyRecords(const COobItem& from, COobItem& to);
+// An unsigned field's value for a number stored in 16 bits: values the field takes above
+// 32767 keep to 32767 rather than turning negative, a negative stored value shows as 0.
+std::int16_t StoredShort(unsigned field);
+unsigned ShownNumber(int stored);
