@@ -1,6 +1,7 @@
 // The dialog templates by id. Positions and sizes are in dialog units.
 #include "platform/MessageBox.h"
 #include "resources/ItemEditorDialogs.h"
+#include "resources/PictureDialog.h"
 #include "resources/ResourceIds.h"
 #include "resources/Resources.h"
 #include "resources/SmallDialogs.h"
@@ -60,6 +61,7 @@ const CDialogTemplate& DialogResource(int id) {
     static const CDialogTemplate leader = MakeLeaderDialog();
     static const CDialogTemplate supply = MakeSupplyDialog();
     static const CDialogTemplate gunboat = MakeGunboatDialog();
+    static const CDialogTemplate picture = MakePictureDialog();
     switch (id) {
         case IDD_ABOUTBOX:
             return aboutBox;
@@ -83,6 +85,8 @@ const CDialogTemplate& DialogResource(int id) {
             return supply;
         case IDD_GUNBOAT:
             return gunboat;
+        case IDD_PICTURE:
+            return picture;
         default:
             MissingResource("dialog", id);
     }

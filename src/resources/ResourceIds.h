@@ -11,6 +11,7 @@ enum : int {
     IDD_UNIT_CLASS = 105,
     IDD_FIND = 106,
     IDD_UNIT = 109,
+    IDD_PICTURE = 110,
     IDD_ADD_LIST = 115,
     IDD_LEADER = 116,
     IDD_SUPPLY = 117,
@@ -98,6 +99,16 @@ enum : int {
     IDC_ITEM_CANCEL = 1021,
     IDC_ITEM_RESET = 1022,
     IDC_ITEM_ACCEPT = 1026,
+};
+
+// Controls of "Select picture" (dialog 110); Enter reaches the hidden IDC_ENTER button.
+enum : int {
+    IDC_PIC_NEXT = 1052,
+    IDC_PIC_PREV = 1053,
+    IDC_PIC_NUMBER = 1054,
+    IDC_PIC_CANCEL = 1021,
+    IDC_PIC_RESET = 1022,
+    IDC_PIC_ACCEPT = 1026,
 };
 
 // Menu commands.
