@@ -62,13 +62,11 @@ TEST_F(HeadlessTest, PictureDlgRows) {
         std::getline(fields, steps, '|');
         std::getline(fields, result, '|');
         std::getline(fields, message);
-        if (const auto at = message.find("{dir}"); at != std::string::npos) {
-            message.replace(at, 5, HW_SAMPLE_DIR);
-        }
         if (!message.empty()) {
             ui.AnswerMessage(message, IDOK);
         }
-        CPictureDlg dlg(HW_SAMPLE_DIR "/" + strip, n[0], n[1], n[2], n[3], n[4], acceptEnabled);
+        CPictureDlg dlg(strip[0] == '/' ? strip : HW_SAMPLE_DIR "/" + strip, n[0], n[1], n[2], n[3],
+                        n[4], acceptEnabled);
         ui.OnDialog(IDD_PICTURE, [&](CHeadlessUser& user) {
             std::istringstream words(steps);
             for (std::string step; words >> step;) {
