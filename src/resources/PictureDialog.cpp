@@ -13,7 +13,9 @@ CDialogTemplate MakePictureDialog() {
         .cy = 80,
         .controls = {
             {-1, K::GroupBox, 80, 7, 103, 30, "Picture number"},
-            {IDC_PIC_NUMBER, K::Edit, 110, 19, 46, 12, "", STYLE_DIGITS | STYLE_CENTER},
+            // The text names the edit for a screen reader; the number replaces it on opening.
+            {IDC_PIC_NUMBER, K::Edit, 110, 19, 46, 12, "Picture number",
+             STYLE_DIGITS | STYLE_CENTER},
             {IDC_PIC_PREV, K::Button, 86, 18, 20, 14, "<-"},
             {IDC_PIC_NEXT, K::Button, 159, 18, 20, 14, "->"},
             {IDC_PIC_ACCEPT, K::Button, 80, 43, 50, 14, "Accept"},

@@ -36,7 +36,7 @@ bool Shows(const CWnd& control) {
 TEST(QtAccessibility, EveryFocusableControlIsNamedAndNamesFollowTheText) {
     CQtBackend backend;
     for (int id : {IDD_ABOUTBOX, IDD_HARNWICK_DIALOG, IDD_WORKSPACE, IDD_ATTACHED, IDD_UNIT_CLASS,
-                   IDD_FIND, IDD_ADD_LIST}) {
+                   IDD_FIND, IDD_ADD_LIST, IDD_PICTURE}) {
         CTestDialog dlg(DialogResource(id));
         RunShown(dlg, [&](QWidget* window) {
             for (auto& control : dlg.Controls()) {
