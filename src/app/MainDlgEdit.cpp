@@ -13,31 +13,32 @@
 
 namespace {
 template <typename Editor, typename Item>
-std::unique_ptr<COobItem> RunEditor(CGameDatabase& database, const Item& item) {
-    Editor editor(database, item);
+std::unique_ptr<COobItem> RunEditor(const CSession& session, const Item& item) {
+    Editor editor(*session.Database(), item);
+    editor.m_pWorkspace = session.Workspace();
     return editor.DoModal() == 1 ? editor.TakeEdited() : nullptr;
 }
 
 // The edited item, or none when the item has no editor yet or the editor was not accepted.
-std::unique_ptr<COobItem> EditItem(CGameDatabase& database, const CTreeStore& tree,
+std::unique_ptr<COobItem> EditItem(const CSession& session, const CTreeStore& tree,
                                    const COobItem& item) {
     switch (item.m_nType) {
         case TYPE_UNIT:
-            return RunEditor<CUnitDlg>(database, static_cast<const CUnitItem&>(item));
+            return RunEditor<CUnitDlg>(session, static_cast<const CUnitItem&>(item));
         case TYPE_LEADER:
             // The position shown is the leader's place among the leaders in tree order.
             NumberLeaders(tree);
-            return RunEditor<CLeaderDlg>(database, static_cast<const CLeaderItem&>(item));
+            return RunEditor<CLeaderDlg>(session, static_cast<const CLeaderItem&>(item));
         case TYPE_SUPPLY:
-            return RunEditor<CSupplyDlg>(database, static_cast<const CSupplyItem&>(item));
+            return RunEditor<CSupplyDlg>(session, static_cast<const CSupplyItem&>(item));
         case TYPE_DEPOT: {
             const auto& depot = static_cast<const CDepotItem&>(item);
             const CSupplyItem supply = SupplyOfDepot(depot);
-            std::unique_ptr<COobItem> edited = RunEditor<CSupplyDlg>(database, supply);
+            std::unique_ptr<COobItem> edited = RunEditor<CSupplyDlg>(session, supply);
             return edited ? DepotOfSupply(depot, *edited) : nullptr;
         }
         case TYPE_GUNBOAT:
-            return RunEditor<CGunboatDlg>(database, static_cast<const CGunboatItem&>(item));
+            return RunEditor<CGunboatDlg>(session, static_cast<const CGunboatItem&>(item));
         default:
             return nullptr;
     }
@@ -54,7 +55,7 @@ void CMainDlg::OnItemProperties() {
     if (!m_session.IsOpen() || !item) {
         return;
     }
-    std::unique_ptr<COobItem> edited = EditItem(*m_session.Database(), m_tree, *item);
+    std::unique_ptr<COobItem> edited = EditItem(m_session, m_tree, *item);
     if (edited) {
         m_session.Edit().ReplaceFields(entry, std::move(edited));
         UpdateData(false);

@@ -4,6 +4,7 @@
 
 #include "dialogs/FightingFields.h"
 #include "gamedata/GameDatabase.h"
+#include "model/Workspace.h"
 #include "platform/DataExchange.h"
 #include "resources/ResourceIds.h"
 
@@ -26,6 +27,14 @@ CGunboatDlg::CGunboatDlg(CGameDatabase& database, const CGunboatItem& gunboat)
     OnKillFocus(IDC_ITEM_QUALITY, [this] { OnQualityChanged(); });
     OnClicked(IDC_ITEM_SHOW_POINTS, [this] { OnShowPointsClicked(); });
     OnClicked(IDC_ITEM_FANATIC, [this] { OnFanaticClicked(); });
+    OnClicked(IDC_ITEM_PICTURE_PICK, [this] {
+        if (const auto number =
+                PickPicture(CWorkspace::UNIT_PICTURES, ShownNumber(m_copy.m_nPicture))) {
+            m_copy.m_nPicture = StoredShort(*number);
+            m_nPicture = *number;
+            UpdateData(false);
+        }
+    });
     OnClicked(IDC_ITEM_ACCEPT, [this] { OnAccept(); });
 }
 

@@ -4,7 +4,10 @@
 #include <cstdio>
 #include <limits>
 
+#include "dialogs/PictureDlg.h"
+#include "gamedata/GameDatabase.h"
 #include "model/OobItem.h"
+#include "model/Workspace.h"
 #include "platform/DataExchange.h"
 #include "resources/ResourceIds.h"
 #include "resources/Resources.h"
@@ -38,6 +41,27 @@ void CItemEditorDlg::ShowFigures(double modifier, double cost) {
 void CItemEditorDlg::Finish(std::unique_ptr<COobItem> edited) {
     m_pEdited = std::move(edited);
     EndDialog(1);
+}
+
+// The strip's path is opened as the workspace gives it, a relative one from the current folder,
+// like the workspace's other files. A cell size the game data holds below 0 reaches the selector
+// as a huge width, which gives no cell.
+std::optional<unsigned> CItemEditorDlg::PickPicture(int picture, unsigned number,
+                                                    int acceptEnabled) {
+    if (!m_pWorkspace || m_pWorkspace->m_nPictureFlags[picture] != 1) {
+        return std::nullopt;
+    }
+    const int iconClass = picture - CWorkspace::INFANTRY_ICONS + 1;
+    const bool icons = iconClass >= 1;
+    CPictureDlg selector(m_pWorkspace->m_strPicturePaths[picture],
+                         static_cast<unsigned>(m_database.m_nCellSizes[2 * picture]),
+                         static_cast<unsigned>(m_database.m_nCellSizes[2 * picture + 1]),
+                         icons ? m_database.IconOffset(iconClass) : 0,
+                         icons ? m_database.IconTrailing(iconClass) : 0, number, acceptEnabled);
+    if (selector.DoModal() != 1) {
+        return std::nullopt;
+    }
+    return selector.m_nPictureNumber;
 }
 
 void CopyRecords(const COobItem& from, COobItem& to) {

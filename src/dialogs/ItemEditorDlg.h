@@ -7,12 +7,14 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/Dialog.h"
 
 class CGameDatabase;
 class COobItem;
+class CWorkspace;
 
 class CItemEditorDlg : public CDialog {
 public:
@@ -21,6 +23,9 @@ public:
 
     std::string m_strModifier = "0";
     std::string m_strCost = "0";
+    // The open workspace, set before DoModal: its picture switches and paths serve the "..."
+    // buttons, which do nothing without one.
+    const CWorkspace* m_pWorkspace = nullptr;
 
 protected:
     CItemEditorDlg(int dialogId, CGameDatabase& database);
@@ -33,6 +38,10 @@ protected:
     void ShowFigures(double modifier, double cost);
     // Closes with 1, keeping edited for TakeEdited.
     void Finish(std::unique_ptr<COobItem> edited);
+    // Opens "Select picture" on the workspace's strip picture (a CWorkspace::Picture) with the
+    // game data's geometry for it, when the strip's switch is exactly 1. Gives the number chosen,
+    // or none when the switch is off or the selector is not accepted.
+    std::optional<unsigned> PickPicture(int picture, unsigned number, int acceptEnabled = 1);
 
     CGameDatabase& m_database;
 

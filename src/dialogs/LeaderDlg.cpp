@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "gamedata/GameDatabase.h"
+#include "model/Workspace.h"
 #include "platform/DataExchange.h"
 #include "resources/ResourceIds.h"
 
@@ -21,6 +22,17 @@ CLeaderDlg::CLeaderDlg(CGameDatabase& database, const CLeaderItem& leader)
     OnKillFocus(IDC_ITEM_LEADERSHIP, [this] { OnLeadershipChanged(); });
     OnKillFocus(IDC_ITEM_THIRD, [this] { OnThirdChanged(); });
     OnKillFocus(IDC_ITEM_POSITION, [this] { OnPositionChanged(); });
+    // The faces can be looked at whatever the flag; a face is chosen only where the game data
+    // has leader extras.
+    OnClicked(IDC_ITEM_PICTURE_PICK, [this] {
+        if (const auto number =
+                PickPicture(CWorkspace::LEADER_FACES, ShownNumber(m_copy.m_nLeaderNumber),
+                            m_database.m_nLeaderExtras != 0 ? 1 : 0)) {
+            m_copy.m_nLeaderNumber = static_cast<std::int32_t>(*number);
+            m_nPosition = *number;
+            UpdateData(false);
+        }
+    });
     OnClicked(IDC_ITEM_ACCEPT, [this] { OnAccept(); });
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "gamedata/GameRecords.h"
+#include "model/Workspace.h"
 #include "platform/DataExchange.h"
 #include "resources/ResourceIds.h"
 
@@ -21,6 +22,14 @@ CSupplyDlg::CSupplyDlg(CGameDatabase& database, const CSupplyItem& supply)
         m_copy.m_nNumber = StoredShort(m_nPicture);
     });
     OnKillFocus(IDC_ITEM_SUPPLY, [this] { OnSupplyChanged(); });
+    OnClicked(IDC_ITEM_PICTURE_PICK, [this] {
+        if (const auto number =
+                PickPicture(CWorkspace::UNIT_PICTURES, ShownNumber(m_copy.m_nNumber))) {
+            m_copy.m_nNumber = StoredShort(*number);
+            m_nPicture = *number;
+            UpdateData(false);
+        }
+    });
     OnClicked(IDC_ITEM_ACCEPT, [this] { OnAccept(); });
 }
 

@@ -4,6 +4,7 @@
 
 #include "dialogs/FightingFields.h"
 #include "gamedata/GameDatabase.h"
+#include "model/Workspace.h"
 #include "platform/DataExchange.h"
 #include "resources/ResourceIds.h"
 
@@ -71,6 +72,8 @@ CUnitDlg::CUnitDlg(CGameDatabase& database, const CUnitItem& unit)
     OnKillFocus(IDC_ITEM_QUALITY, [this] { OnQualityChanged(); });
     OnClicked(IDC_ITEM_SHOW_POINTS, [this] { OnShowPointsClicked(); });
     OnClicked(IDC_ITEM_FANATIC, [this] { OnFanaticClicked(); });
+    OnClicked(IDC_ITEM_PICTURE_PICK, [this] { OnPicturePick(); });
+    OnClicked(IDC_ITEM_ICON_PICK, [this] { OnIconPick(); });
     OnClicked(IDC_ITEM_ACCEPT, [this] { OnAccept(); });
 }
 
@@ -229,6 +232,30 @@ void CUnitDlg::OnFanaticClicked() {
     m_copy.m_nQuality = static_cast<std::int16_t>(-m_copy.m_nQuality);
     Recompute();
     UpdateData(false);
+}
+
+void CUnitDlg::OnPicturePick() {
+    if (const auto number =
+            PickPicture(CWorkspace::UNIT_PICTURES, ShownNumber(m_copy.m_nPicture))) {
+        m_nPicture = *number;
+        m_copy.m_nPicture = static_cast<std::int32_t>(*number);
+        UpdateData(false);
+    }
+}
+
+// Only infantry, cavalry and artillery have icon strips: a unit without a base type, or of
+// class 0, has none to choose from.
+void CUnitDlg::OnIconPick() {
+    const std::uint8_t iconClass = m_copy.m_pBaseType ? m_copy.m_pBaseType->ClassCode() : 0;
+    if (iconClass < 1 || iconClass >= kFirstOtherClass) {
+        return;
+    }
+    const int strip = CWorkspace::INFANTRY_ICONS + iconClass - 1;
+    if (const auto number = PickPicture(strip, ShownNumber(m_copy.m_nIcon))) {
+        m_nIcon = *number;
+        m_copy.m_nIcon = static_cast<std::int32_t>(*number);
+        UpdateData(false);
+    }
 }
 
 // The database the unit points to stays its own.

@@ -43,6 +43,8 @@ private:
     void OnQualityChanged();
     void OnShowPointsClicked();
     void OnFanaticClicked();
+    void OnPicturePick();
+    void OnIconPick();
     void OnAccept();
 
     const CUnitItem& m_unit;

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "MainWindowFixture.h"
+#include "dialogs/PictureDlg.h"
+#include "model/Workspace.h"
 
 namespace {
 
@@ -245,6 +247,35 @@ TEST_F(ItemEditorsTest, UnitFanaticStrengthInMenAndBaseTypeOfAnotherClass) {
         ui.OnDialog(IDD_UNIT, [](CHeadlessUser& dlg) {
             EXPECT_TRUE(dlg.IsVisible(IDC_ITEM_RESERVED));
             EXPECT_FALSE(dlg.IsEnabled(IDC_ITEM_RESERVED));
+            dlg.Escape();
+        });
+        user.Command(ID_EDIT_PROPERTIES);
+    });
+}
+
+// A "..." button opens the selector only on a strip switched on, with its file and the game
+// data's geometry for the unit's class; the number chosen lands in the field.
+TEST_F(ItemEditorsTest, PickersOpenOnlyAStripSwitchedOn) {
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        Select(user, main, "Queen's Own Chasseurs");
+        CWorkspace& workspace = *main.m_session.Workspace();
+        workspace.m_strPicturePaths[CWorkspace::CAVALRY_ICONS] = HW_SAMPLE_DIR "/icons3d1.bmp";
+        workspace.m_nPictureFlags[CWorkspace::UNIT_PICTURES] = 0;
+        main.m_session.Database()->m_nIconGeometry = {9, 9, 1, 2, 9, 9};
+        ui.OnDialog(IDD_UNIT, [&](CHeadlessUser& dlg) {
+            dlg.Click(IDC_ITEM_PICTURE_PICK);  // switched off: no selector opens
+            dlg.Pick(IDC_ITEM_BASE_TYPE, "Cavalry");
+            ui.OnDialog(IDD_PICTURE, [](CHeadlessUser& pick) {
+                const auto& s = static_cast<const CPictureDlg&>(pick.Dialog());
+                EXPECT_EQ(s.m_strBitmapFile, HW_SAMPLE_DIR "/icons3d1.bmp");
+                EXPECT_EQ(
+                    std::vector({s.m_nCellWidth, s.m_nCellHeight, s.m_nOffset, s.m_nTrailing}),
+                    std::vector({32u, 32u, 1u, 2u}));
+                pick.Click(IDC_PIC_NEXT);
+                pick.Click(IDC_PIC_ACCEPT);
+            });
+            dlg.Click(IDC_ITEM_ICON_PICK);
+            EXPECT_EQ(dlg.Text(IDC_ITEM_ICON), "5");
             dlg.Escape();
         });
         user.Command(ID_EDIT_PROPERTIES);
