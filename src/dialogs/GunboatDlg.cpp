@@ -1,8 +1,5 @@
 #include "dialogs/GunboatDlg.h"
 
-#include <cstdlib>
-
-#include "dialogs/FightingFields.h"
 #include "gamedata/GameDatabase.h"
 #include "model/Workspace.h"
 #include "platform/DataExchange.h"
@@ -13,7 +10,7 @@ constexpr int kMaxName = 50;
 }
 
 CGunboatDlg::CGunboatDlg(CGameDatabase& database, const CGunboatItem& gunboat)
-    : CItemEditorDlg(IDD_GUNBOAT, database), m_gunboat(gunboat) {
+    : CFightingEditorDlg(IDD_GUNBOAT, database), m_gunboat(gunboat) {
     OnKillFocus(IDC_ITEM_NAME, [this] {
         UpdateData(true);
         m_copy.m_strName = m_strName;
@@ -23,10 +20,6 @@ CGunboatDlg::CGunboatDlg(CGameDatabase& database, const CGunboatItem& gunboat)
         m_copy.m_nPicture = StoredShort(m_nPicture);
     });
     OnSelChange(IDC_ITEM_WEAPON, [this] { OnWeaponSelected(); });
-    OnKillFocus(IDC_ITEM_STRENGTH, [this] { OnStrengthChanged(); });
-    OnKillFocus(IDC_ITEM_QUALITY, [this] { OnQualityChanged(); });
-    OnClicked(IDC_ITEM_SHOW_POINTS, [this] { OnShowPointsClicked(); });
-    OnClicked(IDC_ITEM_FANATIC, [this] { OnFanaticClicked(); });
     OnClicked(IDC_ITEM_PICTURE_PICK, [this] {
         if (const auto number =
                 PickPicture(CWorkspace::UNIT_PICTURES, ShownNumber(m_copy.m_nPicture))) {
@@ -66,9 +59,7 @@ void CGunboatDlg::Reset() {
     m_copy.m_nQuality = m_gunboat.m_nQuality;
     m_copy.m_nPicture = m_gunboat.m_nPicture;
     m_strName = m_copy.m_strName;
-    ShowStrength();
-    m_nQuality = static_cast<unsigned>(std::abs(m_copy.m_nQuality));
-    m_nFanatic = m_copy.m_nQuality < 0 ? 1 : 0;
+    ShowFightingFields();
     m_nPicture = ShownNumber(m_copy.m_nPicture);
     m_weapons.ResetContent();
     if (m_copy.m_pType) {
@@ -85,47 +76,11 @@ void CGunboatDlg::Reset() {
     UpdateData(false);
 }
 
-void CGunboatDlg::Recompute() {
-    ShowFigures(FieldModifier(m_copy, m_nQuality, m_nFanatic, m_database), m_copy.Cost());
-}
-
-void CGunboatDlg::ShowStrength() {
-    m_nStrength = ShownStrength(m_copy.m_nStrength, m_copy.m_pBaseType, m_nShowPoints);
-}
-
 void CGunboatDlg::OnWeaponSelected() {
     const int line = m_weapons.GetCurSel();
     if (line != LB_ERR) {
         m_copy.m_pWeapon = reinterpret_cast<CWeaponRecord*>(m_weapons.GetItemData(line));
     }
-    Recompute();
-    UpdateData(false);
-}
-
-void CGunboatDlg::OnStrengthChanged() {
-    UpdateData(true);
-    m_copy.m_nStrength = TakenStrength(m_nStrength, m_copy.m_pBaseType, m_nShowPoints);
-    ShowStrength();
-    Recompute();
-    UpdateData(false);
-}
-
-void CGunboatDlg::OnQualityChanged() {
-    UpdateData(true);
-    m_copy.m_nQuality = TakenQuality(m_nQuality, m_database, m_nFanatic);
-    Recompute();
-    UpdateData(false);
-}
-
-void CGunboatDlg::OnShowPointsClicked() {
-    UpdateData(true);
-    ShowStrength();
-    UpdateData(false);
-}
-
-void CGunboatDlg::OnFanaticClicked() {
-    UpdateData(true);
-    m_copy.m_nQuality = static_cast<std::int16_t>(-m_copy.m_nQuality);
     Recompute();
     UpdateData(false);
 }

@@ -4,19 +4,15 @@
 
 #include <string>
 
-#include "dialogs/ItemEditorDlg.h"
+#include "dialogs/FightingEditorDlg.h"
 #include "model/GunboatItem.h"
 
-class CGunboatDlg : public CItemEditorDlg {
+class CGunboatDlg : public CFightingEditorDlg<CGunboatItem> {
 public:
     CGunboatDlg(CGameDatabase& database, const CGunboatItem& gunboat);
 
-    int m_nFanatic = 0;
     std::string m_strName;
     unsigned m_nPicture = 0;
-    unsigned m_nQuality = 0;
-    int m_nShowPoints = 0;
-    unsigned m_nStrength = 0;
     CComboBox m_weapons;  // the weapons of the type; each line carries its record
 
 protected:
@@ -25,15 +21,8 @@ protected:
     void Reset() override;
 
 private:
-    void Recompute();
-    void ShowStrength();
     void OnWeaponSelected();
-    void OnStrengthChanged();
-    void OnQualityChanged();
-    void OnShowPointsClicked();
-    void OnFanaticClicked();
     void OnAccept();
 
     const CGunboatItem& m_gunboat;
-    CGunboatItem m_copy;
 };

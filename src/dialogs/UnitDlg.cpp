@@ -1,8 +1,5 @@
 #include "dialogs/UnitDlg.h"
 
-#include <cstdlib>
-
-#include "dialogs/FightingFields.h"
 #include "gamedata/GameDatabase.h"
 #include "model/Workspace.h"
 #include "platform/DataExchange.h"
@@ -48,7 +45,7 @@ CWeaponRecord* FirstWeapon(const CTypeRecord* type) {
 }  // namespace
 
 CUnitDlg::CUnitDlg(CGameDatabase& database, const CUnitItem& unit)
-    : CItemEditorDlg(IDD_UNIT, database), m_unit(unit) {
+    : CFightingEditorDlg(IDD_UNIT, database), m_unit(unit) {
     OnKillFocus(IDC_ITEM_NAME, [this] {
         UpdateData(true);
         m_copy.m_strName = m_strName;
@@ -68,10 +65,6 @@ CUnitDlg::CUnitDlg(CGameDatabase& database, const CUnitItem& unit)
     OnSelChange(IDC_ITEM_BASE_TYPE, [this] { OnBaseTypeSelected(); });
     OnSelChange(IDC_ITEM_TYPE, [this] { OnTypeSelected(); });
     OnSelChange(IDC_ITEM_WEAPON, [this] { OnWeaponSelected(); });
-    OnKillFocus(IDC_ITEM_STRENGTH, [this] { OnStrengthChanged(); });
-    OnKillFocus(IDC_ITEM_QUALITY, [this] { OnQualityChanged(); });
-    OnClicked(IDC_ITEM_SHOW_POINTS, [this] { OnShowPointsClicked(); });
-    OnClicked(IDC_ITEM_FANATIC, [this] { OnFanaticClicked(); });
     OnClicked(IDC_ITEM_PICTURE_PICK, [this] { OnPicturePick(); });
     OnClicked(IDC_ITEM_ICON_PICK, [this] { OnIconPick(); });
     OnClicked(IDC_ITEM_ACCEPT, [this] { OnAccept(); });
@@ -118,9 +111,7 @@ void CUnitDlg::Reset() {
     m_copy.m_nReserved = m_unit.m_nReserved;
     m_copy.m_nIcon = m_unit.m_nIcon;
     m_strName = m_copy.m_strName;
-    ShowStrength();
-    m_nQuality = static_cast<unsigned>(std::abs(m_copy.m_nQuality));
-    m_nFanatic = m_copy.m_nQuality < 0 ? 1 : 0;
+    ShowFightingFields();
     m_nPicture = ShownNumber(m_copy.m_nPicture);
     m_nReserved = ShownNumber(m_copy.m_nReserved);
     m_nIcon = ShownNumber(m_copy.m_nIcon);
@@ -160,14 +151,6 @@ void CUnitDlg::FillWeapons() {
     }
 }
 
-void CUnitDlg::Recompute() {
-    ShowFigures(FieldModifier(m_copy, m_nQuality, m_nFanatic, m_database), m_copy.Cost());
-}
-
-void CUnitDlg::ShowStrength() {
-    m_nStrength = ShownStrength(m_copy.m_nStrength, m_copy.m_pBaseType, m_nShowPoints);
-}
-
 // A base type of another class brings that class's first type and its first weapon; a class no
 // type has leaves the unit without type and weapon, and so without a cost, until one is chosen.
 void CUnitDlg::OnBaseTypeSelected() {
@@ -202,34 +185,6 @@ void CUnitDlg::OnWeaponSelected() {
     if (CWeaponRecord* weapon = Chosen<CWeaponRecord>(m_weapons)) {
         m_copy.m_pWeapon = weapon;
     }
-    Recompute();
-    UpdateData(false);
-}
-
-void CUnitDlg::OnStrengthChanged() {
-    UpdateData(true);
-    m_copy.m_nStrength = TakenStrength(m_nStrength, m_copy.m_pBaseType, m_nShowPoints);
-    ShowStrength();
-    Recompute();
-    UpdateData(false);
-}
-
-void CUnitDlg::OnQualityChanged() {
-    UpdateData(true);
-    m_copy.m_nQuality = TakenQuality(m_nQuality, m_database, m_nFanatic);
-    Recompute();
-    UpdateData(false);
-}
-
-void CUnitDlg::OnShowPointsClicked() {
-    UpdateData(true);
-    ShowStrength();
-    UpdateData(false);
-}
-
-void CUnitDlg::OnFanaticClicked() {
-    UpdateData(true);
-    m_copy.m_nQuality = static_cast<std::int16_t>(-m_copy.m_nQuality);
     Recompute();
     UpdateData(false);
 }

@@ -6,20 +6,16 @@
 
 #include <string>
 
-#include "dialogs/ItemEditorDlg.h"
+#include "dialogs/FightingEditorDlg.h"
 #include "model/UnitItem.h"
 
-class CUnitDlg : public CItemEditorDlg {
+class CUnitDlg : public CFightingEditorDlg<CUnitItem> {
 public:
     CUnitDlg(CGameDatabase& database, const CUnitItem& unit);
 
     unsigned m_nIcon = 0;
     unsigned m_nPicture = 0;
     std::string m_strName;
-    unsigned m_nQuality = 0;
-    unsigned m_nStrength = 0;
-    int m_nFanatic = 0;
-    int m_nShowPoints = 0;
     unsigned m_nReserved = 0;
     // Each line carries its record.
     CComboBox m_baseTypes;
@@ -34,19 +30,12 @@ protected:
 private:
     void FillTypes();
     void FillWeapons();
-    void Recompute();
-    void ShowStrength();
     void OnBaseTypeSelected();
     void OnTypeSelected();
     void OnWeaponSelected();
-    void OnStrengthChanged();
-    void OnQualityChanged();
-    void OnShowPointsClicked();
-    void OnFanaticClicked();
     void OnPicturePick();
     void OnIconPick();
     void OnAccept();
 
     const CUnitItem& m_unit;
-    CUnitItem m_copy;
 };
