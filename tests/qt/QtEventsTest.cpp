@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeView>
@@ -115,10 +116,28 @@ TEST_F(QtEventsTest, TheTreesGesturesAndTheViewFollowingTheStore) {
         const CRect label = dlg.GetTreeItemRect(107, dlg.army);
         EXPECT_EQ(label.top, armyRow.top());
         EXPECT_LT(label.right, view->viewport()->width());
+        // A double click on the selected entry: its first click arms the label editor, which
+        // must not open once the double click has been handled.
+        dlg.OnTreeDoubleClick(107, [&] {  // as a handler that opens a dialog would
+            dlg.Log("double click");
+            QTest::qWait(QApplication::doubleClickInterval() + 100);
+        });
+        tree.SelectItem(dlg.army);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, armyRow.center());
+        // The second press of a double click reaches the view as the double click alone.
+        QMouseEvent second(QEvent::MouseButtonDblClick, armyRow.center(),
+                           view->viewport()->mapToGlobal(armyRow.center()), Qt::LeftButton,
+                           Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view->viewport(), &second);
+        QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, armyRow.center());
+        QTest::qWait(QApplication::doubleClickInterval() + 100);
+        for (const QLineEdit* editor : view->viewport()->findChildren<QLineEdit*>()) {
+            EXPECT_FALSE(editor->isVisible());
+        }
     });
-    EXPECT_EQ(dlg.log,
-              (std::vector<std::string>{"kill 101", "end edit Corps -> II Corps \x96 ",
-                                        "end edit II Corps \x96  cancelled", "right click"}));
+    EXPECT_EQ(dlg.log, (std::vector<std::string>{"kill 101", "end edit Corps -> II Corps \x96 ",
+                                                 "end edit II Corps \x96  cancelled", "right click",
+                                                 "double click"}));
 }
 
 // Drawing reaches the screen with the colours it was given, and a resized control follows.

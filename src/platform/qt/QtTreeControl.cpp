@@ -43,9 +43,14 @@ CQtTreeControl::CQtTreeControl(CWnd& state, QWidget* parent, CQtControlHost& hos
             return true;
         },
         m_pView));
-    QObject::connect(m_pView, &QTreeView::doubleClicked, m_pView, [this] {
-        m_host.Handle([this](CDialogDriver& driver) { driver.TreeDoubleClick(Id()); });
-    });
+    // Queued, so that the view has finished with the double click before the logic runs: the
+    // first click of a double click on the selected entry arms the delayed label editing, and
+    // only the view's own handling of the double click disarms it. A handler that opens a modal
+    // dialog straight from the signal would see the label editor open under its dialog.
+    QObject::connect(
+        m_pView, &QTreeView::doubleClicked, m_pView,
+        [this] { m_host.Handle([this](CDialogDriver& driver) { driver.TreeDoubleClick(Id()); }); },
+        Qt::QueuedConnection);
     QObject::connect(m_pView, &QTreeView::expanded, m_pView,
                      [this](const QModelIndex& index) { Expand(index, TVE_EXPAND); });
     QObject::connect(m_pView, &QTreeView::collapsed, m_pView,
