@@ -3,16 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QAction>
-#include <QFileDialog>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <filesystem>
 
 #include "QtRun.h"
+#include "QtSampleCopy.h"
 #include "app/MainDlg.h"
 #include "dialogs/WorkspaceDlg.h"
 #include "model/Workspace.h"
@@ -70,47 +66,15 @@ TEST(QtAccessibility, EveryFocusableControlIsNamedAndNamesFollowTheText) {
 // Load of the sample through the real menu, message box, file chooser and workspace dialog:
 // the status fields then read " " and "*", as the screen shows them.
 TEST(QtAccessibility, TheStatusFieldsReadWhatTheyShowAfterLoad) {
-    // A copy of the sample, since Accept writes the workspace file back.
-    QTemporaryDir folder;
-    const std::filesystem::path before = std::filesystem::current_path();
-    for (const auto& file : std::filesystem::directory_iterator(HW_SAMPLE_DIR)) {
-        std::filesystem::copy(file.path(), folder.path().toStdString() / file.path().filename());
-    }
-    std::filesystem::current_path(folder.path().toStdString());
+    CSampleCopy sample;
     CQtBackend backend;
-    // The windows Load opens, answered as a user would: Yes, the workspace file, Accept.
-    QTimer answerer;
-    int answered = 0;
-    QPointer<QWidget> last;
-    QObject::connect(&answerer, &QTimer::timeout, [&] {
-        QWidget* top = QApplication::activeModalWidget();
-        auto* box = qobject_cast<QMessageBox*>(top);
-        if (auto* chooser = qobject_cast<QFileDialog*>(top)) {
-            // Typed, as a user types it; tried again until the chooser takes it.
-            chooser->findChild<QLineEdit*>("fileNameEdit")
-                ->setText(folder.filePath("harnwick.txt"));
-            QMetaObject::invokeMethod(chooser, "accept");
-        } else if (top != last && (box || (top && top->windowTitle() == "Workspace Properties"))) {
-            box ? box->button(QMessageBox::Yes)->click()
-                : WidgetOf<QPushButton>(top, IDC_WS_ACCEPT)->click();
-            last = top;
-            ++answered;
-        }
-    });
-    answerer.start(10);
     CMainDlg dlg;
     RunShown(dlg, [&](QWidget* window) {
         EXPECT_EQ(NameOf(window, IDC_OOB_STATUS), "-");
-        for (QAction* action : window->findChildren<QAction*>()) {
-            if (action->text() == "&Load") {
-                action->trigger();
-            }
-        }
-        EXPECT_EQ(answered, 2);
+        EXPECT_EQ(sample.Load(window), 2);
         EXPECT_EQ(NameOf(window, IDC_OOB_STATUS), " ");
         EXPECT_EQ(NameOf(window, IDC_BACKUP_STATUS), "*");
     });
-    std::filesystem::current_path(before);
 }
 
 // Text set through the accessibility interface, as dictation tools set it, is what Accept

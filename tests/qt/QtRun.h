@@ -16,13 +16,22 @@ W* WidgetOf(QWidget* window, int id) {
     return window->findChild<W*>(QString::number(id));
 }
 
-inline void RunShown(CDialog& dlg, const std::function<void(QWidget*)>& body) {
-    QTimer::singleShot(0, [&] {
+// Runs body with the modal window that is up once the event loop turns, after it is active.
+inline void WhenShown(const std::function<void(QWidget*)>& body) {
+    QTimer::singleShot(0, [body] {
         QWidget* window = QApplication::activeModalWidget();
         EXPECT_NE(window, nullptr);
         if (window != nullptr) {
             window->activateWindow();
             EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        }
+        body(window);
+    });
+}
+
+inline void RunShown(CDialog& dlg, const std::function<void(QWidget*)>& body) {
+    WhenShown([&](QWidget* window) {
+        if (window != nullptr) {
             body(window);
         }
         if (dlg.IsRunning()) {
