@@ -195,6 +195,23 @@ std::size_t CTreeStore::DestroyChildren(CTreeEntry& entry) {
     return destroyed;
 }
 
+// Takes entry out of its parent's children, the caret and the observer told first; the entry
+// keeps its subtree, and the caller says when the observer hears that the removal is over.
+std::unique_ptr<CTreeEntry> CTreeStore::Unlink(HTREEITEM entry) {
+    if (m_hCaret && IsInSubtree(m_hCaret, entry)) {
+        SelectItem(nullptr);
+    }
+    if (CTreeObserver* observer = Told()) {
+        observer->BeforeRemove(entry);
+    }
+    CTreeEntry& parent = *entry->m_pParent;
+    const std::size_t row = entry->m_nRow;
+    std::unique_ptr<CTreeEntry> owned = std::move(parent.m_children[row]);
+    parent.m_children.erase(parent.m_children.begin() + static_cast<std::ptrdiff_t>(row));
+    Renumber(parent, row);
+    return owned;
+}
+
 bool CTreeStore::DeleteItem(HTREEITEM entry) {
     if (entry == nullptr || entry == TVI_FIRST || entry == TVI_LAST) {
         return false;
@@ -211,17 +228,7 @@ bool CTreeStore::DeleteItem(HTREEITEM entry) {
         }
         return true;
     }
-    if (m_hCaret && IsInSubtree(m_hCaret, entry)) {
-        SelectItem(nullptr);
-    }
-    if (CTreeObserver* observer = Told()) {
-        observer->BeforeRemove(entry);
-    }
-    CTreeEntry& parent = *entry->m_pParent;
-    const std::size_t row = entry->m_nRow;
-    std::unique_ptr<CTreeEntry> owned = std::move(parent.m_children[row]);
-    parent.m_children.erase(parent.m_children.begin() + static_cast<std::ptrdiff_t>(row));
-    Renumber(parent, row);
+    std::unique_ptr<CTreeEntry> owned = Unlink(entry);
     m_nCount -= DestroyChildren(*owned) + 1;
     owned.reset();
     if (CTreeObserver* observer = Told()) {
@@ -253,17 +260,7 @@ CDetachedSubtree CTreeStore::Detach(HTREEITEM entry) {
         entry == m_pRoot.get()) {
         return detached;
     }
-    if (m_hCaret && IsInSubtree(m_hCaret, entry)) {
-        SelectItem(nullptr);
-    }
-    if (CTreeObserver* observer = Told()) {
-        observer->BeforeRemove(entry);
-    }
-    CTreeEntry& parent = *entry->m_pParent;
-    const std::size_t row = entry->m_nRow;
-    detached.m_pRoot = std::move(parent.m_children[row]);
-    parent.m_children.erase(parent.m_children.begin() + static_cast<std::ptrdiff_t>(row));
-    Renumber(parent, row);
+    detached.m_pRoot = Unlink(entry);
     entry->m_pParent = nullptr;
     // Counted once here, so that putting the subtree back does not walk it again.
     std::size_t count = 0;

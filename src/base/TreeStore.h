@@ -180,6 +180,7 @@ private:
     // to make and destroy.
     HTREEITEM Insert(std::unique_ptr<std::string>& label, std::unique_ptr<CTreeItemData>& data,
                      HTREEITEM parent, HTREEITEM insertAfter);
+    std::unique_ptr<CTreeEntry> Unlink(HTREEITEM entry);
     static void Renumber(CTreeEntry& parent, std::size_t from);
     friend class CDetachedSubtree;
     static std::size_t DestroyChildren(CTreeEntry& entry);
