@@ -24,6 +24,15 @@ std::string NameOf(QWidget* window, int id) {
     return accessible ? accessible->text(QAccessible::Name).toStdString() : std::string();
 }
 
+// The text of the label a screen reader finds for a control through the label's relation.
+std::string LabelOf(QWidget* window, int id) {
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(WidgetOf(window, id));
+    const auto labels = accessible ? accessible->relations(QAccessible::Label)
+                                   : QList<QPair<QAccessibleInterface*, QAccessible::Relation>>();
+    return labels.isEmpty() ? std::string()
+                            : labels[0].first->text(QAccessible::Name).toStdString();
+}
+
 bool Shows(const CWnd& control) {
     return control.Kind() == ControlKind::Static || control.Kind() == ControlKind::Button ||
            control.Kind() == ControlKind::CheckBox;
@@ -31,12 +40,17 @@ bool Shows(const CWnd& control) {
 
 TEST(QtAccessibility, EveryFocusableControlIsNamedAndNamesFollowTheText) {
     CQtBackend backend;
-    for (int id : {IDD_ABOUTBOX, IDD_HARNWICK_DIALOG, IDD_WORKSPACE, IDD_ATTACHED, IDD_UNIT_CLASS,
-                   IDD_FIND, IDD_ADD_LIST, IDD_PICTURE}) {
+    for (int id :
+         {IDD_ABOUTBOX, IDD_HARNWICK_DIALOG, IDD_WORKSPACE, IDD_ATTACHED, IDD_UNIT_CLASS, IDD_FIND,
+          IDD_ADD_LIST, IDD_PICTURE, IDD_UNIT, IDD_LEADER, IDD_SUPPLY, IDD_GUNBOAT}) {
         CTestDialog dlg(DialogResource(id));
         RunShown(dlg, [&](QWidget* window) {
             for (auto& control : dlg.Controls()) {
-                if (control->TakesFocus()) {
+                // A drop-down list's name is the line it shows; its label comes by relation.
+                if (control->Kind() == ControlKind::ComboBox) {
+                    EXPECT_FALSE(LabelOf(window, control->GetDlgCtrlID()).empty())
+                        << "dialog " << id << " control " << control->GetDlgCtrlID();
+                } else if (control->TakesFocus()) {
                     EXPECT_FALSE(NameOf(window, control->GetDlgCtrlID()).empty())
                         << "dialog " << id << " control " << control->GetDlgCtrlID();
                 }

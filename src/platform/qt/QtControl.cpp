@@ -1,5 +1,6 @@
 #include "platform/qt/QtControl.h"
 
+#include <QLabel>
 #include <QWidget>
 #include <algorithm>
 #include <cctype>
@@ -19,8 +20,9 @@ int CQtControl::Id() const {
     return m_state.GetDlgCtrlID();
 }
 
-void CQtControl::NameAfter(const CWnd* describer, bool withOwnText) {
-    m_pDescriber = describer;
+void CQtControl::NameAfter(const CQtControl* describer, bool withOwnText) {
+    m_pDescriber = describer ? &describer->m_state : nullptr;
+    m_pDescriberWidget = describer ? describer->m_pWidget : nullptr;
     m_bWithOwnText = withOwnText;
     m_bNamed = true;
 }
@@ -31,6 +33,15 @@ QString CQtControl::NameNow() const {
     }
     const QString described = ToQString(m_pDescriber->GetWindowText());
     return m_bWithOwnText ? described + " " + ToQString(m_state.GetWindowText()) : described;
+}
+
+// On Linux a drop-down list's accessible name is the line it shows, and a screen reader finds
+// its label through the label's relation instead; the first control a static describes gets it.
+void CQtControl::LabelledBy() {
+    auto* label = qobject_cast<QLabel*>(m_pDescriberWidget);
+    if (label != nullptr && label->buddy() == nullptr) {
+        label->setBuddy(m_pWidget);
+    }
 }
 
 void CQtControl::TextShown(std::string text) {
@@ -70,6 +81,9 @@ void CQtControl::Sync() {
         const QString name = NameNow();
         if (!m_bNameShown || name != m_shownName) {
             m_pWidget->setAccessibleName(name);
+            if (!m_bNameShown) {
+                LabelledBy();
+            }
             m_shownName = name;
             m_bNameShown = true;
         }
@@ -113,17 +127,17 @@ bool SaysNothing(const std::string& text) {
 
 // The nearest check box or static whose row overlaps the control's, left of it; positions in
 // dialog units, as the template lays the rows out.
-const CWnd* OnTheRow(const std::vector<std::unique_ptr<CQtControl>>& controls,
-                     const CControlTemplate& own) {
-    const CWnd* best = nullptr;
+const CQtControl* OnTheRow(const std::vector<std::unique_ptr<CQtControl>>& controls,
+                           const CControlTemplate& own) {
+    const CQtControl* best = nullptr;
     for (const auto& control : controls) {
         const CControlTemplate& other = control->State().Resource();
         const bool sameRow = other.y < own.y + own.cy && own.y < other.y + other.cy;
         if (!Describes(control->State()) || !sameRow || other.x + other.cx > own.x) {
             continue;
         }
-        if (best == nullptr || other.x > best->Resource().x) {
-            best = &control->State();
+        if (best == nullptr || other.x > best->State().Resource().x) {
+            best = control.get();
         }
     }
     return best;
@@ -139,10 +153,10 @@ void NameControls(const std::vector<std::unique_ptr<CQtControl>>& controls) {
             (state.Kind() == ControlKind::Button && !symbolButton)) {
             continue;
         }
-        const CWnd* describer = OnTheRow(controls, state.Resource());
+        const CQtControl* describer = OnTheRow(controls, state.Resource());
         if (describer == nullptr && state.Resource().text.empty() && i > 0 &&
             controls[i - 1]->State().Kind() == ControlKind::Static) {
-            describer = &controls[i - 1]->State();
+            describer = controls[i - 1].get();
         }
         if (describer != nullptr || !symbolButton) {
             controls[i]->NameAfter(describer, symbolButton);

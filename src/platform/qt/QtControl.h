@@ -41,7 +41,7 @@ public:
     // A control whose own text does not say what it is takes its accessible name from the
     // control that describes it, now and whenever that one's text changes; a symbol-only button
     // ("...") adds its own text.
-    void NameAfter(const CWnd* describer, bool withOwnText);
+    void NameAfter(const CQtControl* describer, bool withOwnText);
     // Shows what changed in the state since the last time.
     void Sync();
 
@@ -62,6 +62,7 @@ protected:
 
 private:
     QString NameNow() const;
+    void LabelledBy();
 
     std::string m_shownText;
     bool m_bTextShown = false;
@@ -70,6 +71,7 @@ private:
     CRect m_rect{-1, -1, -1, -1};
     unsigned m_nLowered = 0;
     const CWnd* m_pDescriber = nullptr;
+    QWidget* m_pDescriberWidget = nullptr;
     bool m_bWithOwnText = false;
     bool m_bNamed = false;
     bool m_bNameShown = false;
