@@ -13,16 +13,12 @@ void CMainDlg::OnAddTemplateNext() {}
 void CMainDlg::OnAddTemplateChild() {}
 void CMainDlg::OnDeleteItem() {}
 void CMainDlg::OnDeleteChildren() {}
-void CMainDlg::OnSaveItemToFile() {}
 void CMainDlg::OnSaveAsTemplate() {}
 bool CMainDlg::OnRenameEntry(HTREEITEM, const std::string*) {
     return false;
 }
 
 void CMainDlg::OnArmiesSummary() {}
-void CMainDlg::OnFindItem() {}
-void CMainDlg::OnBackupSave() {}
-void CMainDlg::OnBackupRestore() {}
 void CMainDlg::OnGetData() {}
 void CMainDlg::OnSaveTargetFile() {}
 void CMainDlg::OnReport(int) {}

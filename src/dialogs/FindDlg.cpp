@@ -11,7 +11,7 @@ namespace {
 constexpr int kMaxSearch = 50;
 }
 
-CFindDlg::CFindDlg(const CTreeCtrl& tree) : CDialog(DialogResource(IDD_FIND)), m_tree(tree) {
+CFindDlg::CFindDlg(const CTreeStore& tree) : CDialog(DialogResource(IDD_FIND)), m_tree(tree) {
     OnClicked(IDC_FIND_SEARCH, [this] { OnSearch(); });
     OnClicked(IDC_FIND_GOTO, [this] { OnGoto(); });
     OnClicked(IDC_CHOICE_CANCEL, [this] { EndDialog(0); });

@@ -8,7 +8,7 @@
 
 class CFindDlg : public CDialog {
 public:
-    explicit CFindDlg(const CTreeCtrl& tree);
+    explicit CFindDlg(const CTreeStore& tree);
 
     // The entry chosen with Goto; none after Cancel, Escape or the close box. DoModal gives 1
     // after Goto and 0 otherwise.
@@ -26,6 +26,6 @@ private:
     void OnSearch();
     void OnGoto();
 
-    const CTreeCtrl& m_tree;
+    const CTreeStore& m_tree;
     HTREEITEM m_hChosen = nullptr;
 };

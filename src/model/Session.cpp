@@ -2,7 +2,9 @@
 
 #include <utility>
 
+#include "base/FileWriter.h"
 #include "base/Result.h"
+#include "base/TextLines.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
 #include "model/Workspace.h"
@@ -66,6 +68,47 @@ CWriteResult CSession::SaveOobAs(const std::string& path) {
     if (written.Done()) {
         m_edit.MarkSaved();
     }
+    return written;
+}
+
+bool CSession::HasBackupFile() const {
+    return IsOpen() && !m_pWorkspace->m_strBackupFile.empty() &&
+           m_pWorkspace->m_strBackupFile != "empty";
+}
+
+CWriteResult CSession::SaveBackup() {
+    if (!HasBackupFile()) {
+        return {RESULT_CANNOT_WRITE, m_pWorkspace ? m_pWorkspace->m_strBackupFile : ""};
+    }
+    CWriteResult written = m_pDocument->m_writer.Save(m_pWorkspace->m_strBackupFile, m_tree);
+    if (written.Done()) {
+        m_edit.MarkBackedUp();
+    }
+    return written;
+}
+
+// The backup is read whole before the order-of-battle file is replaced, so that a backup that
+// does not open or a write that fails leaves the file and the tree as they were.
+CWriteResult CSession::RestoreBackup() {
+    if (!HasBackupFile()) {
+        return {RESULT_CANNOT_OPEN, m_pWorkspace ? m_pWorkspace->m_strBackupFile : ""};
+    }
+    std::string text;
+    if (!ReadWholeFile(m_pWorkspace->m_strBackupFile, text)) {
+        return {RESULT_CANNOT_OPEN, m_pWorkspace->m_strBackupFile};
+    }
+    const std::string& oobFile = m_pWorkspace->m_strOobFile;
+    CWriteResult written = ReplaceFile(oobFile, text);
+    if (!written.Done()) {
+        return written;
+    }
+    if (m_edit.ReplaceTree([&](CTreeStore& tree) {
+            return m_pDocument->LoadTree(oobFile, tree);
+        }) != RESULT_DONE) {
+        return {RESULT_CANNOT_OPEN, oobFile};
+    }
+    m_edit.MarkSaved();
+    m_edit.MarkBackedUp();
     return written;
 }
 

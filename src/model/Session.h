@@ -45,8 +45,17 @@ public:
     CWriteResult Save();
     // Writes the tree to path, which becomes the document's file.
     CWriteResult SaveOobAs(const std::string& path);
-    // The backup file now holds the tree as it stands.
-    void MarkBackedUp() { m_edit.MarkBackedUp(); }
+    // Writes the tree to the workspace's backup file; the backup field becomes " " when it is
+    // written. The document's file stays the order-of-battle file.
+    CWriteResult SaveBackup();
+    // The backup file's text becomes the order-of-battle file's, and the tree what it holds: one
+    // step of the history, both fields " ". RESULT_CANNOT_OPEN (error: the backup's path) when
+    // the backup does not open, or the failed write; the tree and both files then stay as they
+    // were.
+    CWriteResult RestoreBackup();
+    // Whether the workspace names a backup file. A picker cancelled in "Workspace Properties"
+    // leaves the word "empty" there, which names no file the user chose.
+    bool HasBackupFile() const;
 
     // The status fields: "-" no workspace, " " the file holds the tree, "*" it does not.
     const char* OobStatus() const;

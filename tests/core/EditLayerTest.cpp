@@ -117,7 +117,7 @@ protected:
                 ASSERT_EQ(session.SaveOobAs(folder / "saved.oob"), RESULT_DONE);
             }
             if (done == backupAt) {
-                session.MarkBackedUp();
+                session.Edit().MarkBackedUp();
             }
             const std::vector<HTREEITEM> entries = Entries();
             if (!entries.empty() && random() % 4 == 0) {  // Copy or Cut now and then
