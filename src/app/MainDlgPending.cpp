@@ -9,11 +9,8 @@ void CMainDlg::OnAddNext(int) {}
 void CMainDlg::OnAddChild(int) {}
 void CMainDlg::OnPasteNext() {}
 void CMainDlg::OnPasteChild() {}
-void CMainDlg::OnAddTemplateNext() {}
-void CMainDlg::OnAddTemplateChild() {}
 void CMainDlg::OnDeleteItem() {}
 void CMainDlg::OnDeleteChildren() {}
-void CMainDlg::OnSaveAsTemplate() {}
 bool CMainDlg::OnRenameEntry(HTREEITEM, const std::string*) {
     return false;
 }

@@ -27,6 +27,23 @@ void CDataList::PushBack(std::unique_ptr<CDataObject> payload) {
     }
 }
 
+std::unique_ptr<CDataObject> CDataList::PopBack() {
+    if (!m_pTail || m_keyOf) {
+        return nullptr;
+    }
+    CDataListNode* node = m_pTail;
+    ++m_nRevision;
+    m_pTail = node->m_pPrev;
+    (m_pTail ? m_pTail->m_pNext : m_pHead) = nullptr;
+    --m_nCount;
+    if (m_pCursor == node) {
+        m_pCursor = m_pTail;
+    }
+    std::unique_ptr<CDataObject> payload = std::move(node->m_pPayload);
+    delete node;
+    return payload;
+}
+
 void CDataList::PushFront(std::unique_ptr<CDataObject> payload) {
     auto* node = new CDataListNode(std::move(payload));
     ++m_nRevision;

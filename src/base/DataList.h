@@ -36,6 +36,10 @@ public:
     void Init();
     void PushBack(std::unique_ptr<CDataObject> payload);
     void PushFront(std::unique_ptr<CDataObject> payload);
+    // Takes the last record out again (a record given up after its file could not be written);
+    // none when the list is empty. Only for a list without a key, whose index never forgets a
+    // record.
+    std::unique_ptr<CDataObject> PopBack();
     void Rewind() { m_pCursor = m_pHead; }
     CDataListNode* Current() const { return m_pCursor; }
     CDataListNode* Next();

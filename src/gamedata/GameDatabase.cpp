@@ -119,8 +119,7 @@ void CGameDatabase::ReadFrom(std::istream& in) {
     ReadSection<CTemplateRecord>(in, m_Templates);
     int ordinal = 0;
     for (CDataListNode* n = m_Templates.SeekIndex(before); n; n = n->m_pNext) {
-        static_cast<CTemplateRecord&>(*n->m_pPayload).m_nOrdinal =
-            static_cast<std::uint8_t>(before + ordinal++);
+        static_cast<CTemplateRecord&>(*n->m_pPayload).m_nOrdinal = before + ordinal++;
     }
 }
 

@@ -113,7 +113,10 @@ public:
 
     std::uint8_t m_nLevel = 0;
     std::uint8_t m_nCountry = 0;
-    std::uint8_t m_nOrdinal = 0;  // position in the template file; not stored
+    // The position of the template's block in the template file. It is not stored in the
+    // target file, so it is as wide as the list can be long: more than 256 templates stay
+    // addressable.
+    int m_nOrdinal = 0;
     double m_dCost = 0.0;
 
 protected:

@@ -5,6 +5,7 @@
 #include "resources/ResourceIds.h"
 #include "resources/Resources.h"
 #include "resources/SmallDialogs.h"
+#include "resources/TemplateDialogs.h"
 
 namespace {
 using K = ControlKind;
@@ -62,6 +63,8 @@ const CDialogTemplate& DialogResource(int id) {
     static const CDialogTemplate supply = MakeSupplyDialog();
     static const CDialogTemplate gunboat = MakeGunboatDialog();
     static const CDialogTemplate picture = MakePictureDialog();
+    static const CDialogTemplate templateSelect = MakeTemplateSelectDialog();
+    static const CDialogTemplate templateSave = MakeTemplateSaveDialog();
     switch (id) {
         case IDD_ABOUTBOX:
             return aboutBox;
@@ -87,6 +90,10 @@ const CDialogTemplate& DialogResource(int id) {
             return gunboat;
         case IDD_PICTURE:
             return picture;
+        case IDD_TEMPLATE_SELECT:
+            return templateSelect;
+        case IDD_TEMPLATE_SAVE:
+            return templateSave;
         default:
             MissingResource("dialog", id);
     }

@@ -10,6 +10,8 @@ enum : int {
     IDD_ATTACHED = 104,
     IDD_UNIT_CLASS = 105,
     IDD_FIND = 106,
+    IDD_TEMPLATE_SELECT = 107,
+    IDD_TEMPLATE_SAVE = 108,
     IDD_UNIT = 109,
     IDD_PICTURE = 110,
     IDD_ADD_LIST = 115,
@@ -69,6 +71,16 @@ enum : int {
     IDC_CLASS_CAVALRY = 1028,
     IDC_CLASS_ARTILLERY = 1029,
     IDC_CLASS_LINE = 1030,
+};
+
+// Controls of "Select template to add" (107) and "Save new template" (108), besides the list,
+// Accept and Cancel they share with the choosers.
+enum : int {
+    IDC_TPL_COUNTRY = 1036,
+    IDC_TPL_KIND = 1037,
+    IDC_TPL_COST = 1039,
+    IDC_TPL_NAME = 1040,
+    IDC_TPL_TYPE = 1041,
 };
 
 // Controls of the item editors: "Edit unit" (109), "Edit leader" (116), "Edit supply" (117),
