@@ -19,6 +19,3 @@ bool CMainDlg::OnRenameEntry(HTREEITEM, const std::string*) {
 }
 
 void CMainDlg::OnArmiesSummary() {}
-void CMainDlg::OnGetData() {}
-void CMainDlg::OnSaveTargetFile() {}
-void CMainDlg::OnReport(int) {}

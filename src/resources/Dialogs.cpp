@@ -1,5 +1,6 @@
 // The dialog templates by id. Positions and sizes are in dialog units.
 #include "platform/MessageBox.h"
+#include "resources/GetDataDialog.h"
 #include "resources/ItemEditorDialogs.h"
 #include "resources/PictureDialog.h"
 #include "resources/ResourceIds.h"
@@ -62,6 +63,7 @@ const CDialogTemplate& DialogResource(int id) {
     static const CDialogTemplate supply = MakeSupplyDialog();
     static const CDialogTemplate gunboat = MakeGunboatDialog();
     static const CDialogTemplate picture = MakePictureDialog();
+    static const CDialogTemplate getData = MakeGetDataDialog();
     switch (id) {
         case IDD_ABOUTBOX:
             return aboutBox;
@@ -87,6 +89,8 @@ const CDialogTemplate& DialogResource(int id) {
             return gunboat;
         case IDD_PICTURE:
             return picture;
+        case IDD_GET_DATA:
+            return getData;
         default:
             MissingResource("dialog", id);
     }
