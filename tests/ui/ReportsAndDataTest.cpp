@@ -1,39 +1,24 @@
-// The Reports menu, Save Target file and Get data from the main window: each writes what the
-// core (and so harnwick-cli) writes from the same files, a declined or cancelled command writes
-// and shows nothing, and a write that fails says "Cannot write" and changes nothing.
+// Reports, Save Target file and Get data write what harnwick-cli's core writes, or nothing.
 #include <gtest/gtest.h>
-
-#include <filesystem>
 
 #include "FailingFileOps.h"
 #include "MainWindowFixture.h"
 #include "SampleWriters.h"
-#include "base/TextLines.h"
 #include "model/GameImport.h"
 
 namespace {
 
-std::string FileText(const std::string& path) {
-    std::string text;
-    ReadWholeFile(path, text);
-    return text;
-}
-
 class ReportsAndDataTest : public MainWindowTest {
 protected:
-    ReportsAndDataTest() {
-        std::filesystem::copy_file(HW_SAMPLE_DIR "/valdoria.btl", folder / "valdoria.btl");
-    }
-
-    // Get data with the game file, the two choices and, when given, another output file.
+    // Get data from the sample's game file with the two choices, into the open tree or to output.
     void GetData(CHeadlessUser& user, int notExisting, int empty, const std::string& output = "") {
         ui.OnDialog(IDD_GET_DATA, [=, this](CHeadlessUser& dlg) {
-            ui.AnswerFileDialog(folder / "valdoria.btl");
+            ui.AnswerFileDialog(btl);
             dlg.Click(IDC_GD_DATA_PICK);
             dlg.Pick(IDC_GD_NOT_EXISTING, notExisting);
             dlg.Pick(IDC_GD_EMPTY_STRUCTURES, empty);
             if (!output.empty()) {
-                dlg.Pick(IDC_GD_OUTPUT_TO, "Other OOB file");
+                dlg.Pick(IDC_GD_OUTPUT_TO, 1);
                 ui.AnswerFileDialog(output);
                 dlg.Click(IDC_GD_OUTPUT_PICK);
             }
@@ -42,7 +27,7 @@ protected:
         user.Command(ID_OPTIONS_GET_DATA);
     }
 
-    // The sample imported with flags as harnwick-cli import writes it.
+    // The sample imported with flags, as harnwick-cli import writes it.
     static std::string Imported(int flags) {
         CSampleFiles sample;
         ImportGameData(HW_SAMPLE_DIR "/valdoria.btl", sample.tree, flags);
@@ -50,45 +35,104 @@ protected:
     }
 
     static std::string TreeText(CMainDlg& main) {
-        return main.m_session.Document()->m_writer.ToText(main.m_tree);
+        return main.m_session.Document()->m_writer.ToText(main.m_tree) +
+               main.m_session.MarkedName();
     }
+
+    const std::string btl = HW_SAMPLE_DIR "/valdoria.btl";
 };
 
-// Each report, and the HTML one with each answer to its two questions, is the core's report of
-// the sample read on its own.
 TEST_F(ReportsAndDataTest, EveryReportIsWhatTheCoreWrites) {
-    struct Case {
-        int command;
-        ReportKind kind;
-        std::vector<int> options;  // the answers to "Add cost values" and "Add images"
-        int flags;
-        const char* name;
-    };
-    const Case cases[] = {
-        {ID_REPORT_HTML, ReportKind::kHtml, {IDNO, IDNO}, 0, "HTML"},
-        {ID_REPORT_HTML, ReportKind::kHtml, {IDNO, IDYES}, HTML_IMAGES, "HTML"},
-        {ID_REPORT_HTML, ReportKind::kHtml, {IDYES, IDYES}, HTML_COSTS | HTML_IMAGES, "HTML"},
-        {ID_REPORT_LEADER, ReportKind::kLeader, {}, 0, "Leader"},
-        {ID_REPORT_COST, ReportKind::kCost, {}, 0, "Cost"},
-        {ID_REPORT_KEY, ReportKind::kKey, {}, 0, "Key"},
-    };
+    using K = ReportKind;  // HTML flags: 2 images, 3 costs and images
+    const std::tuple<int, K, int, const char*> cases[] = {
+        {ID_REPORT_HTML, K::kHtml, 0, "HTML"}, {ID_REPORT_HTML, K::kHtml, 2, "HTML"},
+        {ID_REPORT_HTML, K::kHtml, 3, "HTML"}, {ID_REPORT_LEADER, K::kLeader, 0, "Leader"},
+        {ID_REPORT_COST, K::kCost, 0, "Cost"}, {ID_REPORT_KEY, K::kKey, 0, "Key"}};
     const CSampleFiles sample;
     Run([&](CHeadlessUser& user, CMainDlg&) {
         Load(user, folder / "harnwick.txt");
-        for (const Case& c : cases) {
-            const std::string extension = c.kind == ReportKind::kHtml ? "html" : "txt";
-            const std::string path = folder / ("report." + extension);
-            ui.AnswerMessage(std::string("Do you want to create a ") + c.name + " Report?", IDYES);
-            ui.AnswerFileDialog(path);
-            for (int answer : c.options) {
-                ui.AnswerMessage(answer);
+        for (const auto& [command, kind, flags, name] : cases) {
+            const std::string path = folder / (kind == K::kHtml ? "report.html" : "report.txt");
+            ui.AnswerMessage(std::string("Do you want to create a ") + name + " Report?", IDYES);
+            ui.AnswerFileDialog(folder / "report");  // the chooser adds the extension
+            if (kind == K::kHtml) {
+                ui.AnswerMessage("Add cost values to report?", flags & HTML_COSTS ? IDYES : IDNO);
+                ui.AnswerMessage("Add images to report?", flags & HTML_IMAGES ? IDYES : IDNO);
             }
-            ui.AnswerMessage(std::string(c.name) + " Report created in : " + path, IDOK);
-            user.Command(c.command);
-            EXPECT_EQ(ui.FileDialogs().back().defaultExtension, extension);
-            EXPECT_EQ(FileText(path), ReportText(sample.tree, c.kind, c.flags)) << c.name;
+            ui.AnswerMessage(std::string(name) + " Report created in : " + path, IDOK);
+            user.Command(command);
+            EXPECT_EQ(ReadBytes(path), ReportText(sample.tree, kind, flags)) << name;
         }
     });
+}
+
+// A cancelled chooser, No, the options dialog closed (Enter without a focused button and an
+// output file of the open workspace keep it open) and a failed write change nothing.
+TEST_F(ReportsAndDataTest, GetDataAndDeclinedOrFailedCommands) {
+    Run([&](CHeadlessUser& user, CMainDlg& main) {
+        Load(user, folder / "harnwick.txt");
+        const std::string tree = TreeText(main);
+        ui.AnswerMessage("Do you want to create a Key Report?", IDYES);
+        ui.CancelFileDialog();
+        user.Command(ID_REPORT_KEY);
+        ui.AnswerMessage("Do you want to overwrite Target File?", IDNO);
+        user.Command(ID_OPTIONS_SAVE_TARGET);
+        ui.OnDialog(IDD_GET_DATA, [&](CHeadlessUser& dlg) {
+            auto enabled = [&dlg] {  // Accept, the output file's picker and path
+                return std::to_string(dlg.IsEnabled(IDC_GD_ACCEPT) * 100 +
+                                      dlg.IsEnabled(IDC_GD_OUTPUT_PICK) * 10 +
+                                      dlg.IsEnabled(IDC_GD_OUTPUT_FILE));
+            };
+            EXPECT_EQ(enabled(), "0");
+            dlg.Pick(IDC_GD_NOT_EXISTING, "Skip");
+            ui.AnswerFileDialog("missing.scn");
+            dlg.Click(IDC_GD_DATA_PICK);
+            // "Skip" (line 2) kept over the picker
+            EXPECT_EQ(enabled() + std::to_string(dlg.Lines(IDC_GD_NOT_EXISTING).GetCurSel()),
+                      "1002");
+            dlg.Pick(IDC_GD_OUTPUT_TO, "Other OOB file");
+            EXPECT_EQ(enabled(), "11");
+            ui.AnswerFileDialog("valdoria.oob");
+            dlg.Click(IDC_GD_OUTPUT_PICK);
+            ui.AnswerMessage(IDOK);
+            dlg.Click(IDC_GD_ACCEPT);
+            EXPECT_TRUE(ui.Messages().back().text.starts_with("valdoria.oob is a file"));
+            dlg.Pick(IDC_GD_OUTPUT_TO, "This OOB file");
+            EXPECT_EQ(enabled() + dlg.Text(IDC_GD_OUTPUT_FILE), "100");
+            dlg.Focus(IDC_GD_EMPTY_STRUCTURES);
+            dlg.Enter();
+            dlg.CloseBox();
+        });
+        user.Command(ID_OPTIONS_GET_DATA);
+        CFailingOps ops({1, true});
+        ui.AnswerMessage(IDYES);
+        ui.AnswerFileDialog("key.txt");
+        ui.AnswerMessage("Cannot write key.txt: Permission denied", IDOK);
+        WithOps(ops, [&] { user.Command(ID_REPORT_KEY); });
+        EXPECT_EQ(TreeText(main), tree);
+
+        // Into the open tree with "Skip" and "Skip": the mentioned entries take the game file's
+        // strengths, nothing goes, and Undo takes it back. To another file: what harnwick-cli
+        // import writes, the window keeping its tree, unsaved edit, history and clipboard mark.
+        ui.AnswerMessage("Data was read from file : " + btl, IDOK);
+        GetData(user, 2, 1);
+        EXPECT_EQ(TreeText(main), Imported(0) + "empty");
+        ExpectStatus(user, "*", "*");
+        user.Command(ID_EDIT_UNDO);
+        EXPECT_EQ(TreeText(main), tree);
+        EditTree(main);
+        main.m_session.Mark(main.m_tree.GetChildItem(main.m_tree.GetRootItem()), ClipMode::Copy);
+        const std::string edited = TreeText(main);
+        ui.AnswerMessage("Data was saved to file : out.oob", IDOK);
+        GetData(user, 0, 0, "out.oob");
+        EXPECT_EQ(TreeText(main), edited);
+        EXPECT_EQ(main.m_session.Edit().UndoCount(), 1u);
+    });
+    EXPECT_EQ(ReadBytes("valdoria.inf"), ReadBytes(HW_SAMPLE_DIR "/valdoria.inf"));
+    EXPECT_FALSE(std::filesystem::exists("key.txt"));
+    EXPECT_EQ(ReadBytes("out.oob"),
+              WithReplaced(Imported(IMPORT_REMOVE_MISSING | IMPORT_REMOVE_EMPTY),
+                           "Royal Army of Valdoria", "First Army"));
 }
 
 }  // namespace
