@@ -66,8 +66,7 @@ TEST_F(ReportsAndDataTest, EveryReportIsWhatTheCoreWrites) {
     });
 }
 
-// A cancelled chooser, No, the options dialog closed (Enter without a focused button and an
-// output file of the open workspace keep it open) and a failed write change nothing.
+// Declined, refused (Enter, an output file of the workspace) and failed commands change nothing.
 TEST_F(ReportsAndDataTest, GetDataAndDeclinedOrFailedCommands) {
     Run([&](CHeadlessUser& user, CMainDlg& main) {
         Load(user, folder / "harnwick.txt");
@@ -111,9 +110,7 @@ TEST_F(ReportsAndDataTest, GetDataAndDeclinedOrFailedCommands) {
         WithOps(ops, [&] { user.Command(ID_REPORT_KEY); });
         EXPECT_EQ(TreeText(main), tree);
 
-        // Into the open tree with "Skip" and "Skip": the mentioned entries take the game file's
-        // strengths, nothing goes, and Undo takes it back. To another file: what harnwick-cli
-        // import writes, the window keeping its tree, unsaved edit, history and clipboard mark.
+        // Skip and Skip into the tree, undone; to another file, the window keeping everything.
         ui.AnswerMessage("Data was read from file : " + btl, IDOK);
         GetData(user, 2, 1);
         EXPECT_EQ(TreeText(main), Imported(0) + "empty");
