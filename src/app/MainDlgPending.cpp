@@ -16,6 +16,3 @@ bool CMainDlg::OnRenameEntry(HTREEITEM, const std::string*) {
 }
 
 void CMainDlg::OnArmiesSummary() {}
-void CMainDlg::OnGetData() {}
-void CMainDlg::OnSaveTargetFile() {}
-void CMainDlg::OnReport(int) {}

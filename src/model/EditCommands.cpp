@@ -26,21 +26,22 @@ void CWholeTreeCommand::Do(CTreeStore& tree) {
     tree.SelectItem(tree.GetRootItem());
 }
 
-void AppendCopy(CTreeStore& tree) {
-    const std::size_t roots = tree.HiddenRoot()->ChildCount();
+// The top-level count is taken first, so that copying a tree into itself stops at its own end.
+void AppendCopy(const CTreeStore& source, CTreeStore& target) {
+    const std::size_t roots = source.HiddenRoot()->ChildCount();
     std::vector<std::pair<HTREEITEM, HTREEITEM>> pending;  // original, parent of its copy
     for (std::size_t i = roots; i-- > 0;) {
-        pending.emplace_back(tree.HiddenRoot()->Child(i), TVI_ROOT);
+        pending.emplace_back(source.HiddenRoot()->Child(i), TVI_ROOT);
     }
     while (!pending.empty()) {
         const auto [original, parent] = pending.back();
         pending.pop_back();
-        const COobItem* item = ItemOf(tree, original);
+        const COobItem* item = ItemOf(source, original);
         const HTREEITEM copy =
-            item ? tree.InsertItem(item->Clone(), parent)
-                 : tree.InsertItem(std::string(tree.GetItemText(original)), parent);
+            item ? target.InsertItem(item->Clone(), parent)
+                 : target.InsertItem(std::string(source.GetItemText(original)), parent);
         if (original->Expanded()) {
-            tree.Expand(copy, TVE_EXPAND);
+            target.Expand(copy, TVE_EXPAND);
         }
         for (std::size_t i = original->ChildCount(); i-- > 0;) {
             pending.emplace_back(original->Child(i), copy);

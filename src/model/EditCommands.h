@@ -124,5 +124,6 @@ private:
 std::vector<CDetachedSubtree> DetachAll(CTreeStore& tree);
 void AttachAll(CTreeStore& tree, std::vector<CDetachedSubtree>& roots);
 
-// Copies of every entry of the tree, with their items and expansion, appended at the top level.
-void AppendCopy(CTreeStore& tree);
+// Copies of every entry of source, with their items and expansion, appended at the top level of
+// target (which may be source itself).
+void AppendCopy(const CTreeStore& source, CTreeStore& target);

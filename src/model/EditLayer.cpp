@@ -204,7 +204,7 @@ int CEditLayer::WholeTree(bool copyFirst, const std::function<int(CTreeStore&)>&
         CTreeStore::CBulkChange bulk(tree);
         const std::size_t roots = tree.HiddenRoot()->ChildCount();
         if (copyFirst) {
-            AppendCopy(tree);
+            AppendCopy(tree, tree);
         }
         // Taken from the end, so that no row shifts.
         std::vector<CDetachedSubtree> all = DetachAll(tree);

@@ -9,7 +9,9 @@
 #include "base/TextLines.h"
 #include "base/TreeWalk.h"
 #include "model/ContainerItems.h"
+#include "model/EditCommands.h"
 #include "model/ItemLineReader.h"
+#include "model/OobWriter.h"
 #include "model/SupplyItem.h"
 #include "model/UnitItem.h"
 
@@ -205,4 +207,15 @@ int ImportGameData(const std::string& path, CTreeStore& tree, int flags) {
         }
     }
     return RESULT_DONE;
+}
+
+// The copy is a store of its own, so the tree, its history and its view never see the import.
+CWriteResult ImportToFile(const CTreeStore& tree, const std::string& gameFile, int flags,
+                          COobWriter& writer, const std::string& path) {
+    CTreeStore copy;
+    AppendCopy(tree, copy);
+    if (ImportGameData(gameFile, copy, flags) != RESULT_DONE) {
+        return {RESULT_CANNOT_OPEN, gameFile};
+    }
+    return writer.Save(path, copy);
 }

@@ -5,7 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "base/Result.h"
 #include "base/TreeStore.h"
+
+class COobWriter;
 
 // Import flags.
 enum : int {
@@ -19,3 +22,7 @@ enum : int {
 int ImportGameData(const std::string& path, CTreeStore& tree, int flags);
 // The entry a position key (2.1.3. or 2.1.3) names; none when it names no entry.
 HTREEITEM FindItemByKey(std::string_view key, const CTreeStore& tree);
+// Imports the game file into a copy of tree and writes the copy to path with writer; tree stays
+// as it is. RESULT_CANNOT_OPEN naming gameFile, or the write's result.
+CWriteResult ImportToFile(const CTreeStore& tree, const std::string& gameFile, int flags,
+                          COobWriter& writer, const std::string& path);

@@ -1,5 +1,6 @@
 // The dialog templates by id. Positions and sizes are in dialog units.
 #include "platform/MessageBox.h"
+#include "resources/GetDataDialog.h"
 #include "resources/ItemEditorDialogs.h"
 #include "resources/PictureDialog.h"
 #include "resources/ResourceIds.h"
@@ -65,6 +66,7 @@ const CDialogTemplate& DialogResource(int id) {
     static const CDialogTemplate picture = MakePictureDialog();
     static const CDialogTemplate templateSelect = MakeTemplateSelectDialog();
     static const CDialogTemplate templateSave = MakeTemplateSaveDialog();
+    static const CDialogTemplate getData = MakeGetDataDialog();
     switch (id) {
         case IDD_ABOUTBOX:
             return aboutBox;
@@ -94,6 +96,8 @@ const CDialogTemplate& DialogResource(int id) {
             return templateSelect;
         case IDD_TEMPLATE_SAVE:
             return templateSave;
+        case IDD_GET_DATA:
+            return getData;
         default:
             MissingResource("dialog", id);
     }

@@ -17,6 +17,7 @@ enum : int {
     IDD_ADD_LIST = 115,
     IDD_LEADER = 116,
     IDD_SUPPLY = 117,
+    IDD_GET_DATA = 119,
     IDD_GUNBOAT = 123,
     IDR_MAINFRAME = 128,  // the program's icon
     IDR_MAINMENU = 129,
@@ -121,6 +122,20 @@ enum : int {
     IDC_PIC_CANCEL = 1021,
     IDC_PIC_RESET = 1022,
     IDC_PIC_ACCEPT = 1026,
+};
+
+// Controls of "Get Data - options" (dialog 119): the game file and the order-of-battle file that
+// receives the result, each with its "..." picker, and the three choices.
+enum : int {
+    IDC_GD_OUTPUT_PICK = 1004,
+    IDC_GD_OUTPUT_FILE = 1012,
+    IDC_GD_CANCEL = 1021,
+    IDC_GD_ACCEPT = 1026,
+    IDC_GD_NOT_EXISTING = 1060,
+    IDC_GD_EMPTY_STRUCTURES = 1061,
+    IDC_GD_OUTPUT_TO = 1062,
+    IDC_GD_DATA_PICK = 1063,
+    IDC_GD_DATA_FILE = 1064,
 };
 
 // Menu commands.
