@@ -5,7 +5,8 @@
 #include "gamedata/GameDatabase.h"
 
 // After an import into the open order of battle the status fields show the change, as after
-// any edit. No file was written then, so the notice names the game file that was read.
+// any edit. The notice names the output path the dialog holds, which is still the start folder
+// when the import went into the open order of battle.
 void CMainDlg::OnGetData() {
     if (!m_session.IsOpen()) {
         return;
@@ -16,13 +17,9 @@ void CMainDlg::OnGetData() {
         return;
     }
     UpdateData(false);
-    if (dlg.m_nOutputTo == CGetDataDlg::kOtherFile) {
-        MessageBox("Data was saved to file : " + dlg.m_strOutputFile, "Get Data",
-                   MB_ICONINFORMATION);
-    } else {
-        MessageBox("Data was read from file : " + dlg.m_strDataFile, "Get Data",
-                   MB_ICONINFORMATION);
-    }
+    const bool otherFile = dlg.m_nOutputTo == CGetDataDlg::kOtherFile;
+    MessageBox("Data was saved to file : " + (otherFile ? dlg.m_strOutputFile : m_strStartDir),
+               "Get Data", MB_ICONINFORMATION);
 }
 
 void CMainDlg::OnSaveTargetFile() {

@@ -111,7 +111,7 @@ TEST_F(ReportsAndDataTest, GetDataAndDeclinedOrFailedCommands) {
         EXPECT_EQ(TreeText(main), tree);
 
         // Skip and Skip into the tree, undone; to another file, the window keeping everything.
-        ui.AnswerMessage("Data was read from file : " + btl, IDOK);
+        ui.AnswerMessage("Data was saved to file : " + folder.Path(), IDOK);
         GetData(user, 2, 1);
         EXPECT_EQ(TreeText(main), Imported(0) + "empty");
         ExpectStatus(user, "*", "*");
