@@ -136,7 +136,8 @@ TEST_F(TemplateCommandsTest, SavedTemplatesAreAppendedAndInsertedAtTheirPlace) {
 }
 
 // A library that cannot be appended to leaves it and the records as they were, the target
-// file written again without the record; beyond 256 templates the ordinals go on. A relative
+// file written again without the record; beyond 256 templates the ordinals go on; a cost out
+// of the field's range. A relative
 // library path is taken from the target file's folder.
 TEST_F(TemplateCommandsTest, AFailedAppendLeavesTheLibraryAndTheRecords) {
     Run([&](CHeadlessUser& user, CMainDlg& main) {
@@ -170,6 +171,31 @@ TEST_F(TemplateCommandsTest, AFailedAppendLeavesTheLibraryAndTheRecords) {
         const HTREEITEM corps = main.m_tree.GetSelectedItem();
         AddTemplate(user, ID_ADD_CHILD_TEMPLATE, "Template : 1st Battery");
         EXPECT_EQ(main.m_tree.GetItemText(main.m_tree.GetChildItem(corps)), "1st Battery");
+        // A cost beyond the field's range: reported, and Accept goes on with the cost and the
+        // name held before (the name after it is not taken); the chooser reports it when the
+        // selection moves off it.
+        static_cast<CBaseTypeRecord&>(*database.m_BaseTypes.Head()->m_pPayload).m_dBaseCost = 1e9;
+        Select(user, main, "1st Line Battalion");
+        const std::string range = "Please enter a number from 0 to 10000000.";
+        ui.OnDialog(IDD_TEMPLATE_SAVE, [&](CHeadlessUser& save) {
+            save.Type(IDC_TPL_NAME, "typed");
+            ui.AnswerMessage(range, IDOK);
+            save.Click(IDC_CHOICE_ACCEPT);
+        });
+        user.Command(ID_EDIT_SAVE_AS_TEMPLATE);
+        const auto& costly =
+            static_cast<const CTemplateRecord&>(*database.m_Templates.Tail()->m_pPayload);
+        EXPECT_EQ(std::string(costly.m_strName), "Template : 1st Line Battalion");
+        EXPECT_GT(costly.m_dCost, 1e7);
+        ui.OnDialog(IDD_TEMPLATE_SELECT, [&](CHeadlessUser& chooser) {
+            chooser.Pick(IDC_CHOICE_LIST, "Template : 1st Line Battalion");
+            ui.AnswerMessage(range, IDOK);
+            chooser.Pick(IDC_CHOICE_LIST, "Template : 1st Battery");
+            EXPECT_EQ(chooser.Text(IDC_TPL_COST), "1550.4");
+            chooser.Escape();
+        });
+        Select(user, main, "I Corps");
+        user.Command(ID_ADD_CHILD_TEMPLATE);
         database.m_strFilePath = "/games/valdoria.inf";
         EXPECT_EQ(TemplateFilePath(database), "/games/valdoria.tpl");
     });
