@@ -15,7 +15,6 @@ bool CMainDlg::OnRenameEntry(HTREEITEM, const std::string*) {
     return false;
 }
 
-void CMainDlg::OnArmiesSummary() {}
 void CMainDlg::OnGetData() {}
 void CMainDlg::OnSaveTargetFile() {}
 void CMainDlg::OnReport(int) {}

@@ -5,6 +5,7 @@
 #include "resources/ResourceIds.h"
 #include "resources/Resources.h"
 #include "resources/SmallDialogs.h"
+#include "resources/StructureDialogs.h"
 #include "resources/TemplateDialogs.h"
 
 namespace {
@@ -65,6 +66,8 @@ const CDialogTemplate& DialogResource(int id) {
     static const CDialogTemplate picture = MakePictureDialog();
     static const CDialogTemplate templateSelect = MakeTemplateSelectDialog();
     static const CDialogTemplate templateSave = MakeTemplateSaveDialog();
+    static const CDialogTemplate structure = MakeStructureDialog();
+    static const CDialogTemplate summary = MakeSummaryDialog();
     switch (id) {
         case IDD_ABOUTBOX:
             return aboutBox;
@@ -94,6 +97,10 @@ const CDialogTemplate& DialogResource(int id) {
             return templateSelect;
         case IDD_TEMPLATE_SAVE:
             return templateSave;
+        case IDD_STRUCTURE:
+            return structure;
+        case IDD_SUMMARY:
+            return summary;
         default:
             MissingResource("dialog", id);
     }
