@@ -25,7 +25,7 @@ constexpr std::array<CArmRow, 5> kArms = {{
 }};
 
 std::string Figure(double value) {
-    char text[512];  // "%g" never needs more than some 15 characters; the rest is room to spare
+    char text[32];
     std::snprintf(text, sizeof text, "%g", value);
     return text;
 }
