@@ -6,6 +6,7 @@
 #include "app/MainDlg.h"
 #include "dialogs/GunboatDlg.h"
 #include "dialogs/LeaderDlg.h"
+#include "dialogs/StructureDlg.h"
 #include "dialogs/SupplyDlg.h"
 #include "dialogs/UnitDlg.h"
 #include "model/LeaderItem.h"
@@ -19,9 +20,20 @@ std::unique_ptr<COobItem> RunEditor(const CSession& session, const Item& item) {
     return editor.DoModal() == 1 ? editor.TakeEdited() : nullptr;
 }
 
-// The edited item, or none when the item has no editor yet or the editor was not accepted.
+// The structure editor on the entry's subtree, for a structure or the structure item made from
+// an army.
+std::unique_ptr<COobItem> RunStructureEditor(const CSession& session, const CTreeStore& tree,
+                                             HTREEITEM entry, const CStructureItem& structure) {
+    CStructureDlg editor(*session.Database(), tree, entry, session.Document(), structure);
+    editor.m_pWorkspace = session.Workspace();
+    return editor.DoModal() == 1 ? editor.TakeEdited() : nullptr;
+}
+
+// The edited item of the entry, or none when the item has no editor or the editor was not
+// accepted.
 std::unique_ptr<COobItem> EditItem(const CSession& session, const CTreeStore& tree,
-                                   const COobItem& item) {
+                                   HTREEITEM entry) {
+    const COobItem& item = *ItemOf(tree, entry);
     switch (item.m_nType) {
         case TYPE_UNIT:
             return RunEditor<CUnitDlg>(session, static_cast<const CUnitItem&>(item));
@@ -39,6 +51,15 @@ std::unique_ptr<COobItem> EditItem(const CSession& session, const CTreeStore& tr
         }
         case TYPE_GUNBOAT:
             return RunEditor<CGunboatDlg>(session, static_cast<const CGunboatItem&>(item));
+        case TYPE_STRUCTURE:
+            return RunStructureEditor(session, tree, entry,
+                                      static_cast<const CStructureItem&>(item));
+        case TYPE_ARMY: {
+            const auto& army = static_cast<const CArmyItem&>(item);
+            const CStructureItem structure = StructureOfArmy(army);
+            std::unique_ptr<COobItem> edited = RunStructureEditor(session, tree, entry, structure);
+            return edited ? ArmyOfStructure(army, *edited) : nullptr;
+        }
         default:
             return nullptr;
     }
@@ -55,7 +76,7 @@ void CMainDlg::OnItemProperties() {
     if (!m_session.IsOpen() || !item) {
         return;
     }
-    std::unique_ptr<COobItem> edited = EditItem(m_session, m_tree, *item);
+    std::unique_ptr<COobItem> edited = EditItem(m_session, m_tree, entry);
     if (edited) {
         m_session.Edit().ReplaceFields(entry, std::move(edited));
         UpdateData(false);

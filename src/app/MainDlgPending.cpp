@@ -15,4 +15,3 @@ bool CMainDlg::OnRenameEntry(HTREEITEM, const std::string*) {
     return false;
 }
 
-void CMainDlg::OnArmiesSummary() {}

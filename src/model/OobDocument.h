@@ -22,6 +22,9 @@ public:
     // fails leaves the old file and the document's path as they were.
     CWriteResult Save(const std::string& path, const CTreeStore& tree);
 
+    // The game data the document reads its lines against.
+    CGameDatabase* Database() const { return m_reader.m_pDatabase; }
+
     std::string m_strPath;
     COobReader m_reader;
     COobWriter m_writer;

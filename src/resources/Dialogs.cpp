@@ -6,6 +6,7 @@
 #include "resources/ResourceIds.h"
 #include "resources/Resources.h"
 #include "resources/SmallDialogs.h"
+#include "resources/StructureDialogs.h"
 #include "resources/TemplateDialogs.h"
 
 namespace {
@@ -67,6 +68,8 @@ const CDialogTemplate& DialogResource(int id) {
     static const CDialogTemplate templateSelect = MakeTemplateSelectDialog();
     static const CDialogTemplate templateSave = MakeTemplateSaveDialog();
     static const CDialogTemplate getData = MakeGetDataDialog();
+    static const CDialogTemplate structure = MakeStructureDialog();
+    static const CDialogTemplate summary = MakeSummaryDialog();
     switch (id) {
         case IDD_ABOUTBOX:
             return aboutBox;
@@ -98,6 +101,10 @@ const CDialogTemplate& DialogResource(int id) {
             return templateSave;
         case IDD_GET_DATA:
             return getData;
+        case IDD_STRUCTURE:
+            return structure;
+        case IDD_SUMMARY:
+            return summary;
         default:
             MissingResource("dialog", id);
     }

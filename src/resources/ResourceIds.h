@@ -17,7 +17,9 @@ enum : int {
     IDD_ADD_LIST = 115,
     IDD_LEADER = 116,
     IDD_SUPPLY = 117,
+    IDD_STRUCTURE = 118,
     IDD_GET_DATA = 119,
+    IDD_SUMMARY = 122,
     IDD_GUNBOAT = 123,
     IDR_MAINFRAME = 128,  // the program's icon
     IDR_MAINMENU = 129,
@@ -112,6 +114,53 @@ enum : int {
     IDC_ITEM_CANCEL = 1021,
     IDC_ITEM_RESET = 1022,
     IDC_ITEM_ACCEPT = 1026,
+};
+
+// Controls of "Edit structure" (dialog 118) besides the item editors' name, cost modifier, cost
+// and buttons: the kind, the subtree's total, each arm's strength and partial cost.
+enum : int {
+    IDC_STRUCT_KIND = 1053,
+    IDC_STRUCT_TOTAL = 1041,
+    IDC_STRUCT_LEADERS = 1042,
+    IDC_STRUCT_INFANTRY = 1027,
+    IDC_STRUCT_CAVALRY = 1028,
+    IDC_STRUCT_ARTILLERY = 1029,
+    IDC_STRUCT_SUPPLY = 1058,
+    IDC_STRUCT_LEADERS_COST = 1047,
+    IDC_STRUCT_INFANTRY_COST = 1048,
+    IDC_STRUCT_CAVALRY_COST = 1049,
+    IDC_STRUCT_ARTILLERY_COST = 1051,
+    IDC_STRUCT_SUPPLY_COST = 1052,
+    IDC_STRUCT_SUMMARY = 1030,
+};
+
+// Controls of "Structure summary" (dialog 122): per row the share of the cost, its bar, the
+// effective cost and its percentage of the reference base cost; the frame that measures the
+// bars, the name and the arrows.
+enum : int {
+    IDC_SUM_NAME = 1040,
+    IDC_SUM_FRAME = 1072,
+    IDC_SUM_NEXT = 1052,
+    IDC_SUM_PREV = 1053,
+    IDC_SUM_ACCEPT = 1026,
+    IDC_SUM_LEADERS_SHARE = 1049,
+    IDC_SUM_INFANTRY_SHARE = 1045,
+    IDC_SUM_CAVALRY_SHARE = 1046,
+    IDC_SUM_ARTILLERY_SHARE = 1047,
+    IDC_SUM_SUPPLY_SHARE = 1048,
+    IDC_SUM_LEADERS_BAR = 1066,
+    IDC_SUM_INFANTRY_BAR = 1067,
+    IDC_SUM_CAVALRY_BAR = 1069,
+    IDC_SUM_ARTILLERY_BAR = 1068,
+    IDC_SUM_SUPPLY_BAR = 1070,
+    IDC_SUM_LEADERS_EFFECTIVE = 1071,
+    IDC_SUM_INFANTRY_EFFECTIVE = 1041,
+    IDC_SUM_CAVALRY_EFFECTIVE = 1042,
+    IDC_SUM_ARTILLERY_EFFECTIVE = 1043,
+    IDC_SUM_LEADERS_OF_BASE = 1073,
+    IDC_SUM_INFANTRY_OF_BASE = 1044,
+    IDC_SUM_CAVALRY_OF_BASE = 1050,
+    IDC_SUM_ARTILLERY_OF_BASE = 1051,
 };
 
 // Controls of "Select picture" (dialog 110); Enter reaches the hidden IDC_ENTER button.

@@ -40,9 +40,10 @@ bool Shows(const CWnd& control) {
 
 TEST(QtAccessibility, EveryFocusableControlIsNamedAndNamesFollowTheText) {
     CQtBackend backend;
-    for (int id : {IDD_ABOUTBOX, IDD_HARNWICK_DIALOG, IDD_WORKSPACE, IDD_ATTACHED, IDD_UNIT_CLASS,
-                   IDD_FIND, IDD_ADD_LIST, IDD_PICTURE, IDD_UNIT, IDD_LEADER, IDD_SUPPLY,
-                   IDD_GUNBOAT, IDD_TEMPLATE_SELECT, IDD_TEMPLATE_SAVE, IDD_GET_DATA}) {
+    for (int id :
+         {IDD_ABOUTBOX, IDD_HARNWICK_DIALOG, IDD_WORKSPACE, IDD_ATTACHED, IDD_UNIT_CLASS, IDD_FIND,
+          IDD_ADD_LIST, IDD_PICTURE, IDD_UNIT, IDD_LEADER, IDD_SUPPLY, IDD_GUNBOAT,
+          IDD_TEMPLATE_SELECT, IDD_TEMPLATE_SAVE, IDD_GET_DATA, IDD_STRUCTURE, IDD_SUMMARY}) {
         CTestDialog dlg(DialogResource(id));
         RunShown(dlg, [&](QWidget* window) {
             for (auto& control : dlg.Controls()) {
