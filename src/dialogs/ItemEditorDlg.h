@@ -1,8 +1,8 @@
-// What the leader, supply and gunboat editors share: a working copy edited by the fields, the
-// cost modifier and cost shown after every change, Reset, Cancel, and Enter moving the focus to
-// Accept so that it commits the field being typed without closing the dialog. Accept leaves the
-// edited item as a changed clone for the caller to hand to the edit layer; the item itself is
-// never touched.
+// What the item editors share (unit, leader, supply, gunboat and structure): a working copy
+// edited by the fields with its figures beside them, Reset, Cancel, and Enter moving the
+// focus to Accept so that it commits the field being typed without closing the dialog. Accept
+// leaves the edited item as a changed clone for the caller to hand to the edit layer; the item
+// itself is never touched.
 #pragma once
 
 #include <cstdint>
