@@ -10,6 +10,7 @@
 #include "app/EditorPrompts.h"
 #include "base/Result.h"
 #include "model/Session.h"
+#include "model/TreeCommands.h"
 #include "platform/Dialog.h"
 
 class CWorkspace;
@@ -97,6 +98,9 @@ private:
     std::unique_ptr<CWorkspace> EditNewWorkspace(const std::string& path, bool load,
                                                  std::uint16_t mode, std::uint16_t oobOpenMode);
     void ShowWriteError(const CWriteResult& result);
+    // Add child and Add next: the type asked for, the new item put at place and, for a unit,
+    // leader or supply train, its editor opened; false when nothing was added.
+    bool AddNewItem(int command, const std::optional<CAddPlace>& place);
 };
 
 // The start folder from START.INI's first line: up to the line feed, one carriage return

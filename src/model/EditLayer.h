@@ -88,8 +88,9 @@ public:
     // The tree as it stands is what the order-of-battle file (the backup file) holds.
     void MarkSaved() { m_oobClean = Position(); }
     void MarkBackedUp() { m_backupClean = Position(); }
-    bool OobClean() const { return m_oobClean == Position(); }
-    bool BackupClean() const { return m_backupClean == Position(); }
+    // A group still open has changed the tree already (an Add whose editor is still open).
+    bool OobClean() const { return m_oobClean == Position() && !GroupChanged(); }
+    bool BackupClean() const { return m_backupClean == Position() && !GroupChanged(); }
 
     std::size_t UndoCount() const { return m_nDone; }
     std::size_t RedoCount() const { return m_steps.size() - m_nDone; }
@@ -110,6 +111,7 @@ private:
     // ReplaceTree, and ChangeTree with copyFirst.
     int WholeTree(bool copyFirst, const std::function<int(CTreeStore&)>& fill);
     std::size_t Position() const { return m_nDropped + m_nDone; }
+    bool GroupChanged() const { return m_group && !m_group->commands.empty(); }
 
     CSession& m_session;
     std::deque<CStep> m_steps;
