@@ -1,7 +1,7 @@
-// The edit layer under random sequences of its commands, on the sample order of battle and on one
-// of 10^4 entries: undoing every step gives back each earlier state (bytes, entry count, status
-// fields, clipboard mark), redoing gives the later bytes again, and the order-of-battle field
-// reads " " exactly at the step that was saved.
+// The edit layer under random sequences of its commands and of the window's tree commands built on
+// it, on the sample order of battle and on one of 10^4 entries: undoing every step gives back each
+// earlier state (bytes, entry count, status fields, clipboard mark), redoing gives the later bytes
+// again, and the order-of-battle field reads " " exactly at the step that was saved.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,9 +15,11 @@
 #include "base/TreeWalk.h"
 #include "gamedata/GameDatabase.h"
 #include "model/GameImport.h"
+#include "model/NewItems.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
 #include "model/Session.h"
+#include "model/TreeCommands.h"
 #include "model/Workspace.h"
 
 namespace {
@@ -55,43 +57,63 @@ protected:
         return entries;
     }
 
-    // One random command; it may change nothing (a move into its own subtree).
+    // One random command, most of them the window's tree commands; it may change nothing (a
+    // move into its own subtree, a paste the level rule refuses).
     void RandomCommand(std::mt19937& random) {
         const std::vector<HTREEITEM> entries = Entries();
         auto any = [&] { return entries[random() % entries.size()]; };
         CEditLayer& edit = session.Edit();
-        const CClipMark& mark = session.Mark();
         const HTREEITEM target = entries.empty() ? nullptr : any();
-        switch (entries.empty() ? 8 : random() % 9) {
+        switch (entries.empty() ? 11 : random() % 12) {
             case 0:
+                if (PasteChild(session, target)) {
+                    break;
+                }
+                [[fallthrough]];
             case 1:
-                if (mark.mode != ClipMode::None) {
-                    CEditLayer::CGroup paste(edit);
-                    const CClipMark taken = mark;
-                    edit.InsertLines(target, TVI_FIRST, *taken.lines);
-                    if (taken.mode == ClipMode::Cut) {
-                        edit.Remove(taken.marked);
-                    }
+                if (PasteNext(session, target)) {
                     break;
                 }
                 [[fallthrough]];
             case 2:
-                edit.Remove(target);
+                DeleteEntry(session, target);
                 break;
             case 3:
-            case 4:
                 edit.Move(target, any(), random() % 2 ? TVI_FIRST : TVI_LAST);
                 break;
-            case 5:
-                edit.Rename(target, "Renamed " + std::to_string(random() % 100));
+            case 4:
+                RenameEntry(session, target, "Renamed " + std::to_string(random() % 100));
                 break;
-            case 6: {
+            case 5: {
                 auto edited = ItemOf(session.Tree(), target)->Clone();
                 edited->m_strName += " (edited)";
                 edit.ReplaceFields(target, std::move(edited));
                 break;
             }
+            case 6:
+                DeleteChildren(session, target);
+                break;
             case 7:
+            case 8: {
+                const auto place = random() % 2 ? AddChildPlace(session.Tree(), target)
+                                                : AddNextPlace(session.Tree(), target);
+                CDataList& types = session.Database()->m_Types;
+                types.Rewind();
+                for (std::size_t skip = random() % 30; skip > 0 && types.Current(); --skip) {
+                    types.Next();
+                }
+                auto* type = static_cast<CTypeRecord*>(types.CurrentPayload());
+                const int code = type ? type->ClassCode() : 0;
+                const NewKind kind = code <= 3   ? NewKind::Unit
+                                     : code == 4 ? NewKind::Leader
+                                     : code == 5 ? NewKind::Supply
+                                                 : NewKind::Structure;
+                if (place && type) {
+                    AddEntry(session, *place, NewItem(*session.Database(), kind, *type));
+                }
+                break;
+            }
+            case 9:
                 edit.ChangeTree([&](CTreeStore& tree) {
                     return ImportGameData(kSample + "valdoria.btl", tree, IMPORT_ZERO_MISSING);
                 });
@@ -121,8 +143,8 @@ protected:
             }
             const std::vector<HTREEITEM> entries = Entries();
             if (!entries.empty() && random() % 4 == 0) {  // Copy or Cut now and then
-                session.Mark(entries[random() % entries.size()],
-                             random() % 2 ? ClipMode::Copy : ClipMode::Cut);
+                MarkEntry(session, entries[random() % entries.size()],
+                          random() % 2 ? ClipMode::Copy : ClipMode::Cut);
             }
             CState found = State();
             RandomCommand(random);
