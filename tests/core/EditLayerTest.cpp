@@ -94,22 +94,16 @@ protected:
                 DeleteChildren(session, target);
                 break;
             case 7:
-            case 8: {
+            case 8: {  // a unit, leader, supply train or structure of the sample's types
+                const std::size_t kind = random() % 4;
+                const char* const types[] = {"Dragoons", "3", "S ", "D "};
                 const auto place = random() % 2 ? AddChildPlace(session.Tree(), target)
                                                 : AddNextPlace(session.Tree(), target);
-                CDataList& types = session.Database()->m_Types;
-                types.Rewind();
-                for (std::size_t skip = random() % 30; skip > 0 && types.Current(); --skip) {
-                    types.Next();
-                }
-                auto* type = static_cast<CTypeRecord*>(types.CurrentPayload());
-                const int code = type ? type->ClassCode() : 0;
-                const NewKind kind = code <= 3   ? NewKind::Unit
-                                     : code == 4 ? NewKind::Leader
-                                     : code == 5 ? NewKind::Supply
-                                                 : NewKind::Structure;
-                if (place && type) {
-                    AddEntry(session, *place, NewItem(*session.Database(), kind, *type));
+                auto* type = session.Database()->m_Types.FindByKey(types[kind]);
+                if (place) {
+                    AddEntry(session, *place,
+                             NewItem(*session.Database(), static_cast<NewKind>(kind),
+                                     static_cast<CTypeRecord&>(*type)));
                 }
                 break;
             }
