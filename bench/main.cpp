@@ -154,6 +154,7 @@ int main() {
     Report("save ns per entry, 10^6 / 10^4",
            PerEntry(large.save, large.entries) / PerEntry(small.save, small.entries), 1.5);
     MeasureHistory(folder.string(), targetPath);
+    MeasureTreeCommands(folder.string(), targetPath);
     fs::remove_all(folder);
     return 0;
 }
