@@ -45,6 +45,7 @@ std::optional<std::string> StructureStopName(const CTreeStore& tree, const CAddP
 // The new item in at place, selected; gives its entry.
 HTREEITEM AddEntry(CSession& session, const CAddPlace& place, std::unique_ptr<COobItem> item);
 
-// Rename in place: the item's name becomes text. A text with nothing but blanks is refused
-// (false): the name would vanish when the file is read again.
+// Rename in place: the item's name becomes text. A text of blanks only is refused (false): a
+// line's end is trimmed when the file is read, so the name would come back empty, a row with
+// nothing to see or click.
 bool RenameEntry(CSession& session, HTREEITEM entry, const std::string& text);

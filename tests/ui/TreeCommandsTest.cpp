@@ -1,7 +1,6 @@
-// The Edit commands that change the tree, run from the main window's menu on a small order of
-// battle and target file (tests/data/tree/), one row of commands.txt each: the command, the entry
-// selected first, the answers and choices it meets, and the window after it; then the file the
-// rows saved.
+// The Edit commands that change the tree, from the main window's menu on a small order of battle
+// (tests/data/tree/), one row of commands.txt each: the command, the entry selected first, the
+// answers and choices it meets, the window after it; then the file the rows saved.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -49,8 +48,7 @@ protected:
                std::to_string(main.m_session.Edit().UndoCount());
     }
 
-    // An Add's argument: the number of types offered, the one chosen, then the editor cancelled
-    // or the item renamed in it and accepted.
+    // An Add's "offered>chosen>editor": types offered, the one chosen, cancel or the new name.
     void ScriptAdd(CHeadlessUser& user, int editor, const std::string& argument) {
         std::istringstream parts(argument);
         std::string offered, choice, edit;
