@@ -23,8 +23,8 @@ HTREEITEM Paste(CSession& session, HTREEITEM parent, HTREEITEM after) {
     {
         CEditLayer::CGroup group(session.Edit());
         pasted = session.Edit().InsertLines(parent, after, *mark.lines);
-        // Lines that make no entry (the game data has lost their kind) leave the cut entry
-        // where it is: nothing would take its place.
+        // Lines of which none reads back as an item leave the cut entry where it is: nothing
+        // would take its place.
         if (pasted && mark.mode == ClipMode::Cut) {
             session.Edit().Remove(mark.marked);
         }
@@ -135,7 +135,8 @@ HTREEITEM AddEntry(CSession& session, const CAddPlace& place, std::unique_ptr<CO
 
 bool RenameEntry(CSession& session, HTREEITEM entry, const std::string& text) {
     const COobItem* item = ItemAt(session.Tree(), entry);
-    if (!session.IsOpen() || !item || text.find_first_not_of(" \t") == std::string::npos) {
+    if (!session.IsOpen() || !item || text.find_first_not_of(" \t") == std::string::npos ||
+        text.find_first_of("\r\n") != std::string::npos) {
         return false;
     }
     // Ending the edit without a change is no step: the file still holds the tree.

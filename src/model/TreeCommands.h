@@ -47,5 +47,5 @@ HTREEITEM AddEntry(CSession& session, const CAddPlace& place, std::unique_ptr<CO
 
 // Rename in place: the item's name becomes text. A text of blanks only is refused (false): a
 // line's end is trimmed when the file is read, so the name would come back empty, a row with
-// nothing to see or click.
+// nothing to see or click. So is a text with a line end, which would split the item's line.
 bool RenameEntry(CSession& session, HTREEITEM entry, const std::string& text);

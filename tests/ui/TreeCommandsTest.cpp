@@ -7,6 +7,7 @@
 #include <map>
 #include <sstream>
 
+#include "CaseFile.h"
 #include "MainWindowFixture.h"
 #include "TestTrees.h"
 
@@ -72,7 +73,7 @@ protected:
     void Do(CHeadlessUser& user, CMainDlg& main, const std::string& command,
             const std::string& argument) {
         if (command == "rename") {
-            user.EditLabel(IDC_TREE, main.m_tree.GetSelectedItem(), argument);
+            user.EditLabel(IDC_TREE, main.m_tree.GetSelectedItem(), Unescape(argument));
         } else if (command == "save") {
             ui.AnswerMessage("Do you want to save your files?", IDYES);
             user.Click(IDC_OOB_STATUS);
