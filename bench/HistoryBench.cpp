@@ -95,6 +95,9 @@ void MeasureTreeCommands(const std::string& folder, const std::string& targetPat
     for (int run = 0; run < 3; ++run) {
         paste = std::min(paste, Seconds([&] { PasteChild(session, army); }));
         pasteUndo = std::min(pasteUndo, Seconds([&] { session.Edit().Undo(); }));
+        // The undone copy is freed here, not by the next paste's step dropping it: each paste
+        // then meets the allocator as LoadTree does, with the last tree's memory free.
+        session.Edit().Reset();
     }
     const std::size_t pasted = SubtreeSize(session.Tree(), corps);
     const double pasteLoad = LoadSeconds(folder, session, pasted);
