@@ -12,6 +12,7 @@
 #include "gamedata/GameDatabase.h"
 #include "gamedata/GameRecords.h"
 #include "model/GameImport.h"
+#include "model/OobDiff.h"
 #include "model/OobDocument.h"
 #include "model/OobItem.h"
 #include "model/Reports.h"
@@ -34,22 +35,22 @@ int Written(std::ostream& err, const CWriteResult& result) {
 }
 
 // The tool's own session: the target file and the order-of-battle file named on the command
-// line stand for a workspace's. The lines the reader passed over are kept, with their numbers.
+// line stand for a workspace's. A line the reader passed over is a finding, with its number.
 struct CCliSession {
-    CCliSession(const CCliOptions& options, std::ostream& err)
-        : prompts(options.unknownClass, err), session(prompts) {
+    CCliSession(const CCliOptions& options, std::ostream* echo)
+        : prompts(options.unknownClass, echo), session(prompts) {
         session.m_onPassedOver = [this](int lineNumber, const std::string& line) {
-            passedOver.push_back("line " + std::to_string(lineNumber) + ": no item kind: " + line);
+            prompts.Found("line " + std::to_string(lineNumber) + ": no item kind: " + line);
         };
     }
 
     CCliPrompts prompts;
     CSession session;
     std::unique_ptr<CGameDatabase> database;  // loaded, not yet open
-    std::vector<std::string> passedOver;
 };
 
 int LoadTarget(CCliSession& cli, const std::string& path, std::ostream& err) {
+    cli.prompts.Reading(path);
     int result = RESULT_DONE;
     cli.database = cli.session.LoadDatabase(path, &result);
     return result == RESULT_DONE ? EXIT_DONE : CannotOpen(err, path);
@@ -63,6 +64,7 @@ int Open(CCliSession& cli, const std::string& target, const std::string& oobFile
     auto workspace = std::make_unique<CWorkspace>();
     workspace->m_strOobFile = oobFile;
     workspace->m_strTargetFile = target;
+    cli.prompts.Reading(oobFile);
     if (cli.session.Open(std::move(workspace), std::move(cli.database)) != RESULT_DONE) {
         return CannotOpen(err, oobFile);
     }
@@ -130,15 +132,7 @@ int Check(CCliSession& cli, const CCliOptions& options, std::ostream& out, std::
     if (int status = LoadBoth(cli, options, err)) {
         return status;
     }
-    std::vector<std::string> problems;
-    for (const std::string& warning : cli.prompts.Warnings()) {
-        std::string line = warning;
-        for (char& c : line) {
-            c = c == '\n' ? ' ' : c;
-        }
-        problems.push_back(line);
-    }
-    problems.insert(problems.end(), cli.passedOver.begin(), cli.passedOver.end());
+    std::vector<std::string> problems = cli.prompts.Findings();
     CKeyCounter keys;
     for (CTreeWalk walk(cli.session.Tree(), nullptr); !walk.Done(); walk.Step()) {
         const COobItem& item = *ItemOf(cli.session.Tree(), walk.Current());
@@ -154,6 +148,43 @@ int Check(CCliSession& cli, const CCliOptions& options, std::ostream& out, std::
     }
     out << problems.size() << (problems.size() == 1 ? " problem" : " problems") << " found\n";
     return problems.empty() ? EXIT_DONE : EXIT_PROBLEMS;
+}
+
+// Every difference, and the count of each kind.
+int Diff(CCliSession& before, const CCliOptions& options, std::ostream& out, std::ostream& err) {
+    CCliSession after(options, &err);
+    if (int status = LoadBoth(before, options, err)) {
+        return status;
+    }
+    if (int status = Open(after, options.files[0], options.files[2], err)) {
+        return status;
+    }
+    const std::vector<COobDifference> differences =
+        DiffOob(before.session.Tree(), after.session.Tree());
+    std::size_t counts[3] = {};
+    for (const COobDifference& difference : differences) {
+        ++counts[static_cast<int>(difference.change)];
+        switch (difference.change) {
+            case OobChange::kRemoved:
+                out << "removed " << difference.path << "\n    " << difference.before << '\n';
+                break;
+            case OobChange::kAdded:
+                out << "added " << difference.path << "\n    " << difference.after << '\n';
+                break;
+            case OobChange::kChanged:
+                out << "changed " << difference.path << "\n    old " << difference.before
+                    << "\n    new " << difference.after << '\n';
+                break;
+        }
+    }
+    if (differences.empty()) {
+        out << "no differences\n";
+        return EXIT_DONE;
+    }
+    out << counts[static_cast<int>(OobChange::kAdded)] << " added, "
+        << counts[static_cast<int>(OobChange::kRemoved)] << " removed, "
+        << counts[static_cast<int>(OobChange::kChanged)] << " changed\n";
+    return EXIT_DIFFERENT;
 }
 
 int Report(CCliSession& cli, const CCliOptions& options, std::ostream& err) {
@@ -193,13 +224,17 @@ int Import(CCliSession& cli, const CCliOptions& options, std::ostream& err) {
 }  // namespace
 
 int RunCliCommand(const CCliOptions& options, std::ostream& out, std::ostream& err) {
-    CCliSession cli(options, err);
     const std::string& command = options.command;
+    // check lists what it finds as its output; the other commands say it on the error stream.
+    CCliSession cli(options, command == "check" ? nullptr : &err);
     if (command == "tree") {
         return Tree(cli, options, out, err);
     }
     if (command == "check") {
         return Check(cli, options, out, err);
+    }
+    if (command == "diff") {
+        return Diff(cli, options, out, err);
     }
     if (command == "report") {
         return Report(cli, options, err);

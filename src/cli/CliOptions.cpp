@@ -1,41 +1,78 @@
 #include "cli/CliOptions.h"
 
-#include "model/GameImport.h"
+#include <iterator>
 
-const char* const kCliUsage =
-    "Usage: harnwick-cli COMMAND FILES... [OPTIONS]\n"
-    "\n"
-    "Commands:\n"
-    "  new TARGET OUT                 write the skeleton of a new order of battle to OUT\n"
-    "  tree TARGET OOB                list every entry: key, type code, kind, name, cost, men\n"
-    "  save TARGET OOB OUT            read OOB and write it to OUT as the editor saves it\n"
-    "       [--target-out FILE]       also write the target file (with records added) to FILE\n"
-    "  target TARGET OUT              read the target file and write it back to OUT\n"
-    "  check TARGET OOB               list what a designer must fix in OOB\n"
-    "  report html|cost|leader|key TARGET OOB OUT\n"
-    "       [--costs] [--images]      write a report of OOB to OUT (the options: html only)\n"
-    "  import TARGET OOB GAMEFILE OUT read the strengths left in GAMEFILE into OOB, write OUT\n"
-    "       [--missing remove|zero|skip]  entries GAMEFILE does not mention (default remove)\n"
-    "       [--empty remove|skip]     structures left without men (default remove)\n"
-    "\n"
-    "Options:\n"
-    "  --unknown-class 1|2|3          class of unit types the target file lacks (1 infantry,\n"
-    "                                 2 cavalry, 3 artillery; default 1)\n"
-    "  --help                         print this text\n"
-    "\n"
-    "Exit status: 0 done, 1 an input file cannot be opened, 2 usage error,\n"
-    "3 an output file cannot be written, 4 (check) problems found.\n";
+#include "model/GameImport.h"
 
 namespace {
 
+// A command, the number of files it takes and its help.
 struct CommandShape {
     const char* name;
     std::size_t files;
+    const char* synopsis;       // its arguments, after the tool's name
+    const char* summary;        // what it does, on one line
+    const char* options;        // its own options, a line each
+    unsigned statuses;          // bit n: it may exit with status n
+    bool readsOob;              // takes --unknown-class
+    const char* done = "done";  // what status 0 says
 };
 
-constexpr CommandShape kCommands[] = {
-    {"new", 2}, {"tree", 2}, {"save", 3}, {"target", 2}, {"check", 2}, {"report", 3}, {"import", 4},
+// The exit statuses, each with the one command it belongs to, if any.
+struct StatusText {
+    const char* command;
+    const char* text;
 };
+constexpr StatusText kStatuses[] = {
+    {nullptr, "done (check: nothing to fix; diff: no differences)"},
+    {nullptr, "an input file cannot be opened"},
+    {nullptr, "usage error"},
+    {nullptr, "an output file cannot be written"},
+    {"check", "problems found"},
+    {"diff",
+     "the orders of battle differ (not 1, as diff(1) has it: every status\n"
+     "     means one thing whatever the command, and 1 says a file cannot be opened)"},
+};
+static_assert(std::size(kStatuses) == EXIT_DIFFERENT + 1);
+
+constexpr unsigned kReads = 1U << EXIT_DONE | 1U << EXIT_CANNOT_OPEN | 1U << EXIT_USAGE;
+constexpr unsigned kWrites = kReads | 1U << EXIT_CANNOT_WRITE;
+
+constexpr CommandShape kCommands[] = {
+    {"new", 2, "new TARGET OUT", "write the skeleton of a new order of battle to OUT", "", kWrites,
+     false},
+    {"tree", 2, "tree TARGET OOB", "list every entry: key, type code, kind, name, cost, men", "",
+     kReads, true},
+    {"save", 3, "save TARGET OOB OUT [--target-out FILE]",
+     "read OOB and write it to OUT as the editor saves it",
+     "  --target-out FILE       also write the target file, with the records added while\n"
+     "                          reading OOB, to FILE\n",
+     kWrites, true},
+    {"target", 2, "target TARGET OUT", "read the target file and write it back to OUT", "", kWrites,
+     false},
+    {"check", 2, "check TARGET OOB", "list, once each, what a designer must fix in OOB", "",
+     kReads | 1U << EXIT_PROBLEMS, true, "nothing to fix"},
+    {"diff", 3, "diff TARGET A B",
+     "list the entries added, removed and changed from order of battle A to B", "",
+     kReads | 1U << EXIT_DIFFERENT, true, "no differences"},
+    {"report", 3, "report html|cost|leader|key TARGET OOB OUT [--costs] [--images]",
+     "write a report of OOB to OUT",
+     "  --costs                 the HTML report shows the cost values\n"
+     "  --images                the HTML report shows the images\n",
+     kWrites, true},
+    {"import", 4, "import TARGET OOB GAMEFILE OUT [--missing HOW] [--empty HOW]",
+     "read the strengths left in GAMEFILE into OOB and write OUT",
+     "  --missing remove|zero|skip  what becomes of entries GAMEFILE does not mention\n"
+     "                          (default remove)\n"
+     "  --empty remove|skip     what becomes of structures left without men (default\n"
+     "                          remove)\n",
+     kWrites, true},
+};
+
+constexpr const char* kUnknownClassOption =
+    "  --unknown-class 1|2|3   class of unit types the target file lacks (1 infantry,\n"
+    "                          2 cavalry, 3 artillery; default 1)\n";
+constexpr const char* kHelpOption = "  --help                  print this text\n";
 
 bool IsReport(const std::string& name) {
     return name == "html" || name == "cost" || name == "leader" || name == "key";
@@ -93,7 +130,48 @@ bool TakeValue(const std::string& arg, const std::string& value, CCliOptions& op
     return true;
 }
 
+// "Exit status:" and the statuses of one command, or of every command when it is none.
+std::string Statuses(const CommandShape* command) {
+    const bool named = !command;
+    const unsigned mask = command ? command->statuses : ~0U;
+    std::string text =
+        "Exit status:\n  0  " + std::string(command ? command->done : kStatuses[0].text) + "\n";
+    for (int status = 1; status <= EXIT_DIFFERENT; ++status) {
+        if (mask & 1U << status) {
+            const StatusText& s = kStatuses[status];
+            text += "  " + std::to_string(status) + "  " +
+                    (named && s.command ? s.command + std::string(": ") : "") + s.text + "\n";
+        }
+    }
+    return text;
+}
+
 }  // namespace
+
+std::string CliUsage(const std::string& command) {
+    if (const CommandShape* shape = FindCommand(command)) {
+        return std::string("Usage: harnwick-cli ") + shape->synopsis + " [OPTIONS]\n\n" + "  " +
+               shape->summary + "\n\nOptions:\n" + shape->options +
+               (shape->readsOob ? kUnknownClassOption : "") + kHelpOption + "\n" + Statuses(shape);
+    }
+    std::string usage =
+        "Usage: harnwick-cli COMMAND FILES... [OPTIONS]\n"
+        "       harnwick-cli COMMAND --help\n"
+        "       harnwick-cli --version\n"
+        "\n"
+        "Commands:\n";
+    for (const CommandShape& shape : kCommands) {
+        usage += "  " + std::string(shape.synopsis) + "\n      " + shape.summary + "\n";
+    }
+    return usage + "\nOptions:\n" + kUnknownClassOption + kHelpOption +
+           "  --version               print the version\n"
+           "Each command's own options: harnwick-cli COMMAND --help\n\n" +
+           Statuses(nullptr);
+}
+
+std::string CliVersion() {
+    return "harnwick-cli " HARNWICK_VERSION "\n";
+}
 
 bool ParseCliOptions(int argc, char** argv, CCliOptions& options, std::string& error) {
     Given given;
@@ -104,6 +182,8 @@ bool ParseCliOptions(int argc, char** argv, CCliOptions& options, std::string& e
         const std::string arg = argv[i];
         if (arg == "--help" || arg == "-h") {
             options.help = true;
+        } else if (arg == "--version") {
+            options.version = true;
         } else if (arg == "--costs" || arg == "--images") {
             (arg == "--costs" ? options.costs : options.images) = true;
             given.html = true;
@@ -127,13 +207,16 @@ bool ParseCliOptions(int argc, char** argv, CCliOptions& options, std::string& e
             options.files.push_back(arg);
         }
     }
-    if (options.help) {
+    const CommandShape* shape = FindCommand(options.command);
+    if (options.command.empty() && (options.help || options.version)) {
         return true;
     }
-    const CommandShape* shape = FindCommand(options.command);
     if (!shape) {
         error = options.command.empty() ? "no command given" : "unknown command " + options.command;
         return false;
+    }
+    if (options.help) {
+        return true;
     }
     if (options.files.size() != shape->files) {
         error = options.command + " takes " + std::to_string(shape->files) + " files";

@@ -4,13 +4,16 @@
 #include <string>
 #include <vector>
 
-// Exit statuses.
+// Exit statuses. Each means one thing whatever the command, so a script that runs several
+// commands can tell every outcome apart: diff's "the files differ" is 5 rather than the 1 of
+// diff(1), since 1 already says that an input file cannot be opened.
 enum : int {
     EXIT_DONE = 0,
     EXIT_CANNOT_OPEN = 1,
     EXIT_USAGE = 2,
     EXIT_CANNOT_WRITE = 3,
     EXIT_PROBLEMS = 4,
+    EXIT_DIFFERENT = 5,
 };
 
 struct CCliOptions {
@@ -23,9 +26,13 @@ struct CCliOptions {
     bool images = false;  // --images: the HTML report's images
     int importFlags = 0;  // IMPORT_* flags, from --missing and --empty
     bool help = false;
+    bool version = false;
 };
 
 // Fills options from the arguments; false, with a message in error, when they make no sense.
 bool ParseCliOptions(int argc, char** argv, CCliOptions& options, std::string& error);
 
-extern const char* const kCliUsage;
+// The tool's help: every command when command is empty, else that command's own.
+std::string CliUsage(const std::string& command = {});
+// "harnwick-cli VERSION" and a line end.
+std::string CliVersion();

@@ -8,11 +8,11 @@ int main(int argc, char** argv) {
     CCliOptions options;
     std::string error;
     if (!ParseCliOptions(argc, argv, options, error)) {
-        std::cerr << "harnwick-cli: " << error << "\n\n" << kCliUsage;
+        std::cerr << "harnwick-cli: " << error << "\n\n" << CliUsage(options.command);
         return EXIT_USAGE;
     }
-    if (options.help) {
-        std::cout << kCliUsage;
+    if (options.help || options.version) {
+        std::cout << (options.help ? CliUsage(options.command) : CliVersion());
         return EXIT_DONE;
     }
     return RunCliCommand(options, std::cout, std::cerr);

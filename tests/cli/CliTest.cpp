@@ -19,15 +19,28 @@ protected:
     CTempFolder m_folder;
 };
 
-// The tree lists key, type, kind, name, cost and men; check lists every problem and exits with 4.
-TEST_F(Cli, TreeAndCheckPrintWhatTheirFilesHold) {
-    for (const auto& [command, oob, status] :
-         {std::tuple{"tree", "tree", EXIT_DONE}, {"check", "problems", EXIT_PROBLEMS}}) {
-        const CliRun run =
-            RunCli({command, kData + "small.inf", kData + "cli/" + std::string(oob) + ".oob"});
+// The tree lists key, type, kind, name, cost and men; check lists every problem once, on the
+// output only, and exits with 4; diff names entries by path, wherever an insertion moved them,
+// and exits with 5 when the files differ.
+TEST_F(Cli, TreeCheckAndDiffPrintWhatTheirFilesHold) {
+    const std::string target = kData + "small.inf";
+    const std::string cli = kData + "cli/";
+    const std::vector<std::tuple<std::vector<std::string>, std::string, int>> cases = {
+        {{"tree", target, cli + "tree.oob"}, "tree.txt", EXIT_DONE},
+        {{"check", target, cli + "problems.oob"}, "problems.txt", EXIT_PROBLEMS},
+        {{"diff", target, cli + "diff-before.oob", cli + "diff-after.oob"},
+         "diff.txt",
+         EXIT_DIFFERENT},
+        {{"diff", target, cli + "diff-after.oob", cli + "diff-after.oob"},
+         "no-differences.txt",
+         EXIT_DONE},
+    };
+    for (const auto& [args, expected, status] : cases) {
+        SCOPED_TRACE(::testing::PrintToString(args));
+        const CliRun run = RunCli(args);
         EXPECT_EQ(run.status, status);
-        EXPECT_EQ(run.out, ReadBytes(kData + "cli/" + std::string(oob) + ".txt"));
-        EXPECT_EQ(run.err.empty(), status == EXIT_DONE) << run.err;
+        EXPECT_EQ(run.out, ReadBytes(cli + expected));
+        EXPECT_EQ(run.err, "");
     }
 }
 
@@ -52,9 +65,9 @@ TEST_F(Cli, SaveWritesTheTargetWithTheRecordsAddedWhileReading) {
     const CliRun run = RunCli({"--unknown-class", "2", "save", kSample + "valdoria.inf",
                                "--target-out", target, oob, m_folder / "out.oob"});
     ASSERT_EQ(run.status, EXIT_DONE);
-    EXPECT_EQ(run.err, "Warning!\nEntry : " + line + "\nUknown unit type : [Jaeger]\nWarning!\n" +
-                           "Entry : " + line +
-                           "\nUknown weapon type : [Rifle] for unit type [Jaeger]\n");
+    const std::string said = "harnwick-cli: " + oob + ": Entry : " + line;
+    EXPECT_EQ(run.err, said + " Uknown unit type : [Jaeger]\n" + said +
+                           " Uknown weapon type : [Rifle] for unit type [Jaeger]\n");
     EXPECT_EQ(ReadBytes(m_folder / "out.oob"), ReadBytes(oob));
     const std::string saved = ReadBytes(target);
     EXPECT_NE(saved.find("</C>\r\n\t2|Jaeger|0|Unit type Jaeger|\r\n\t\tRifle|0|Weapon type "
@@ -77,9 +90,11 @@ TEST_F(Cli, InputThatDoesNotOpenExitsWithOneAndBadUsageWithTwo) {
         {EXIT_CANNOT_OPEN, {"new", none, m_folder / "o"}},
         {EXIT_CANNOT_OPEN, {"tree", target, none}},
         {EXIT_CANNOT_OPEN, {"save", target, none, m_folder / "o"}},
+        {EXIT_CANNOT_OPEN, {"diff", target, oob, none}},
         {EXIT_USAGE, {}},
         {EXIT_USAGE, {"frob", "a", "b"}},
         {EXIT_USAGE, {"tree", "a"}},
+        {EXIT_USAGE, {"diff", "a", "b"}},
         {EXIT_USAGE, {"tree", "a", "b", "c"}},
         {EXIT_USAGE, {"tree", "a", "b", "--unknown-class", "7"}},
         {EXIT_USAGE, {"tree", "a", "b", "--unknown-class"}},

@@ -1,5 +1,6 @@
-# Runs the program CLI with the arguments ARGS (a list, possibly empty) and fails unless it exits
-# with the status EXPECTED and, when TEXT is given, what it prints matches TEXT.
+# Runs the program CLI with the arguments ARGS (separated by spaces, possibly none) and fails
+# unless it exits with the status EXPECTED and, when TEXT is given, what it prints matches TEXT.
+separate_arguments(ARGS UNIX_COMMAND "${ARGS}")
 execute_process(COMMAND ${CLI} ${ARGS} RESULT_VARIABLE status OUTPUT_VARIABLE out
                 ERROR_VARIABLE err)
 if(NOT status EQUAL EXPECTED)
