@@ -5,7 +5,7 @@ ASAN_BUILD ?= build-asan
 JOBS       ?= $(shell nproc)
 CMAKE_GEN  := -G Ninja
 
-.PHONY: all deps build build-asan test test-asan run bench fuzz coverage format check-format check-layers clean
+.PHONY: all deps build build-asan test test-asan run install bench fuzz coverage format check-format check-layers clean
 
 all: build
 
@@ -50,6 +50,14 @@ run: build
 	    echo "run: starting it so under xvfb-run (stop it with Ctrl-C)"; \
 	    cd sample && exec $(XVFB_RUN) $(EDITOR); \
 	fi
+
+# The editor, harnwick-cli, the desktop entry, the AppStream metadata, the icons and the manual
+# page, under PREFIX; with DESTDIR, under DESTDIR/PREFIX (to build a package).
+PREFIX  ?= /usr/local
+DESTDIR ?=
+
+install: build
+	DESTDIR="$(DESTDIR)" cmake --install $(BUILD) --prefix "$(PREFIX)"
 
 # The libFuzzer targets, one per reader (clang), each run for FUZZ_SECONDS from its committed
 # corpus; new inputs go to $(FUZZ_BUILD)/fuzz-corpus, findings to $(FUZZ_BUILD)/fuzz-findings.
