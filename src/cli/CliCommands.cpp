@@ -161,7 +161,7 @@ int Diff(CCliSession& before, const CCliOptions& options, std::ostream& out, std
     }
     const std::vector<COobDifference> differences =
         DiffOob(before.session.Tree(), after.session.Tree());
-    std::size_t counts[3] = {};
+    std::size_t counts[4] = {};
     for (const COobDifference& difference : differences) {
         ++counts[static_cast<int>(difference.change)];
         switch (difference.change) {
@@ -175,6 +175,10 @@ int Diff(CCliSession& before, const CCliOptions& options, std::ostream& out, std
                 out << "changed " << difference.path << "\n    old " << difference.before
                     << "\n    new " << difference.after << '\n';
                 break;
+            case OobChange::kMoved:
+                out << "moved " << difference.path << "\n    now "
+                    << (difference.after.empty() ? "first" : "after " + difference.after) << '\n';
+                break;
         }
     }
     if (differences.empty()) {
@@ -183,7 +187,8 @@ int Diff(CCliSession& before, const CCliOptions& options, std::ostream& out, std
     }
     out << counts[static_cast<int>(OobChange::kAdded)] << " added, "
         << counts[static_cast<int>(OobChange::kRemoved)] << " removed, "
-        << counts[static_cast<int>(OobChange::kChanged)] << " changed\n";
+        << counts[static_cast<int>(OobChange::kChanged)] << " changed, "
+        << counts[static_cast<int>(OobChange::kMoved)] << " moved\n";
     return EXIT_DIFFERENT;
 }
 

@@ -53,7 +53,7 @@ constexpr CommandShape kCommands[] = {
     {"check", 2, "check TARGET OOB", "list, once each, what a designer must fix in OOB", "",
      kReads | 1U << EXIT_PROBLEMS, true, "nothing to fix"},
     {"diff", 3, "diff TARGET A B",
-     "list the entries added, removed and changed from order of battle A to B", "",
+     "list the entries removed, added, moved and changed from order of battle A to B", "",
      kReads | 1U << EXIT_DIFFERENT, true, "no differences"},
     {"report", 3, "report html|cost|leader|key TARGET OOB OUT [--costs] [--images]",
      "write a report of OOB to OUT",

@@ -21,7 +21,7 @@ protected:
 
 // The tree lists key, type, kind, name, cost and men; check lists every problem once, on the
 // output only, and exits with 4; diff names entries by path, wherever an insertion moved them,
-// and exits with 5 when the files differ.
+// lists the fewest siblings that explain a new order, and exits with 5 when the files differ.
 TEST_F(Cli, TreeCheckAndDiffPrintWhatTheirFilesHold) {
     const std::string target = kData + "small.inf";
     const std::string cli = kData + "cli/";
