@@ -208,7 +208,7 @@ bool ParseCliOptions(int argc, char** argv, CCliOptions& options, std::string& e
         }
     }
     const CommandShape* shape = FindCommand(options.command);
-    if (options.command.empty() && (options.help || options.version)) {
+    if ((options.command.empty() && options.help) || options.version) {
         return true;
     }
     if (!shape) {
