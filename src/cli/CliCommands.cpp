@@ -1,5 +1,6 @@
 #include "cli/CliCommands.h"
 
+#include <iterator>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -161,34 +162,36 @@ int Diff(CCliSession& before, const CCliOptions& options, std::ostream& out, std
     }
     const std::vector<COobDifference> differences =
         DiffOob(before.session.Tree(), after.session.Tree());
-    std::size_t counts[4] = {};
-    for (const COobDifference& difference : differences) {
-        ++counts[static_cast<int>(difference.change)];
-        switch (difference.change) {
-            case OobChange::kRemoved:
-                out << "removed " << difference.path << "\n    " << difference.before << '\n';
-                break;
-            case OobChange::kAdded:
-                out << "added " << difference.path << "\n    " << difference.after << '\n';
-                break;
-            case OobChange::kChanged:
-                out << "changed " << difference.path << "\n    old " << difference.before
-                    << "\n    new " << difference.after << '\n';
-                break;
-            case OobChange::kMoved:
-                out << "moved " << difference.path << "\n    now "
-                    << (difference.after.empty() ? "first" : "after " + difference.after) << '\n';
-                break;
-        }
-    }
     if (differences.empty()) {
         out << "no differences\n";
         return EXIT_DONE;
     }
-    out << counts[static_cast<int>(OobChange::kAdded)] << " added, "
-        << counts[static_cast<int>(OobChange::kRemoved)] << " removed, "
-        << counts[static_cast<int>(OobChange::kChanged)] << " changed, "
-        << counts[static_cast<int>(OobChange::kMoved)] << " moved\n";
+    constexpr const char* kNames[] = {"removed", "added", "moved", "changed"};
+    std::size_t counts[std::size(kNames)] = {};
+    for (const COobDifference& difference : differences) {
+        const auto change = static_cast<std::size_t>(difference.change);
+        ++counts[change];
+        out << kNames[change] << ' ' << difference.path << "\n    ";
+        switch (difference.change) {
+            case OobChange::kRemoved:
+                out << difference.before << '\n';
+                break;
+            case OobChange::kAdded:
+                out << difference.after << '\n';
+                break;
+            case OobChange::kMoved:
+                out << "now " << (difference.after.empty() ? "first" : "after " + difference.after)
+                    << '\n';
+                break;
+            case OobChange::kChanged:
+                out << "old " << difference.before << "\n    new " << difference.after << '\n';
+                break;
+        }
+    }
+    for (std::size_t change = 0; change < std::size(kNames); ++change) {
+        out << counts[change] << ' ' << kNames[change]
+            << (change + 1 < std::size(kNames) ? ", " : "\n");
+    }
     return EXIT_DIFFERENT;
 }
 

@@ -13,7 +13,8 @@
 
 #include "base/TreeStore.h"
 
-enum class OobChange { kRemoved, kAdded, kChanged, kMoved };
+// In the order they are listed in.
+enum class OobChange { kRemoved, kAdded, kMoved, kChanged };
 
 struct COobDifference {
     OobChange change;
