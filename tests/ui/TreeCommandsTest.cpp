@@ -62,7 +62,7 @@ protected:
         if (!edit.empty()) {
             ui.OnDialog(editor, [&user, edit](CHeadlessUser& dlg) {
                 EXPECT_EQ(user.Text(IDC_OOB_STATUS), "*");  // the new item is in already
-                dlg.Type(IDC_ITEM_NAME, edit);  // not taken when cancelled
+                dlg.Type(IDC_ITEM_NAME, edit);              // not taken when cancelled
                 dlg.Click(edit == "cancel" ? IDC_ITEM_CANCEL : IDC_ITEM_ACCEPT);
             });
         }
