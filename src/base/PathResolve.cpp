@@ -82,7 +82,7 @@ std::optional<std::string> Walk(const std::string& stored, bool lastMayBeMissing
     std::string path = stored.front() == '/' || stored.front() == '\\' ? "/" : "";
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const std::string exact = Join(path, parts[i]);
-        if (Exists(exact) || parts[i] == "..") {
+        if (parts[i] == ".." || Exists(exact)) {
             path = exact;
             continue;
         }

@@ -8,42 +8,32 @@ namespace {
 
 // The characters of valid UTF-8 (no overlong forms, no surrogates, nothing past U+10FFFF).
 std::optional<std::u32string> DecodeUtf8(std::string_view bytes) {
+    static constexpr char32_t kLeast[] = {0, 0x80, 0x800, 0x10000};  // by continuation bytes
     std::u32string text;
     text.reserve(bytes.size());
     for (std::size_t i = 0; i < bytes.size();) {
-        const auto lead = static_cast<unsigned char>(bytes[i]);
-        int length = 0;
-        char32_t c = 0;
-        char32_t least = 0;
-        if (lead < 0x80) {
-            text.push_back(lead);
-            ++i;
-            continue;
-        }
-        if ((lead & 0xE0) == 0xC0) {
-            length = 2, c = lead & 0x1F, least = 0x80;
-        } else if ((lead & 0xF0) == 0xE0) {
-            length = 3, c = lead & 0x0F, least = 0x800;
-        } else if ((lead & 0xF8) == 0xF0) {
-            length = 4, c = lead & 0x07, least = 0x10000;
-        } else {
+        const auto lead = static_cast<unsigned char>(bytes[i++]);
+        const int more = lead < 0x80   ? 0
+                         : lead < 0xC0 ? -1
+                         : lead < 0xE0 ? 1
+                         : lead < 0xF0 ? 2
+                         : lead < 0xF8 ? 3
+                                       : -1;
+        if (more < 0 || bytes.size() - i < static_cast<std::size_t>(more)) {
             return std::nullopt;
         }
-        if (bytes.size() - i < static_cast<std::size_t>(length)) {
-            return std::nullopt;
-        }
-        for (int k = 1; k < length; ++k) {
-            const auto next = static_cast<unsigned char>(bytes[i + k]);
+        char32_t c = lead & (0xFF >> (more + (more > 0) + 1));
+        for (const std::size_t end = i + static_cast<std::size_t>(more); i < end; ++i) {
+            const auto next = static_cast<unsigned char>(bytes[i]);
             if ((next & 0xC0) != 0x80) {
                 return std::nullopt;
             }
             c = (c << 6) | (next & 0x3F);
         }
-        if (c < least || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
+        if (c < kLeast[more] || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
             return std::nullopt;
         }
         text.push_back(c);
-        i += static_cast<std::size_t>(length);
     }
     return text;
 }
