@@ -1,5 +1,6 @@
 #include "base/PathResolve.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <string_view>
