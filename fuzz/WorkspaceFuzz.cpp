@@ -1,11 +1,15 @@
 // The workspace reader on any file, and its writer: what the writer makes of a workspace reads
 // back as the same workspace (less what a cut line lost) and is written again byte for byte.
+// Each path it names resolves to itself or to a file there is, and its text gives its bytes back.
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <sstream>
 #include <string>
 
 #include "FuzzSupport.h"
+#include "base/PathResolve.h"
+#include "base/PathText.h"
 #include "model/Workspace.h"
 
 namespace {
@@ -27,6 +31,17 @@ bool KeptFields(const CWorkspace& a, const CWorkspace& b) {
     return kept;
 }
 
+void CheckPath(const std::string& stored) {
+    const std::string found = ResolvePath(stored);
+    std::error_code error;
+    Require(
+        found == stored || std::filesystem::exists(std::filesystem::symlink_status(found, error)),
+        "a path resolves to no file");
+    ResolvePathToWrite(stored);
+    Require(UnicodeToPath(PathToUnicode(stored), stored) == stored,
+            "a path's text gives other bytes back");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -39,5 +54,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     second.ReadFrom(again);
     Require(KeptFields(first, second), "a written workspace reads back differently");
     Require(second.ToText() == written, "a written workspace is written differently");
+    for (const std::string* path :
+         {&first.m_strOobFile, &first.m_strBackupFile, &first.m_strTargetFile}) {
+        CheckPath(*path);
+    }
+    for (const std::string& path : first.m_strPicturePaths) {
+        CheckPath(path);
+    }
     return 0;
 }

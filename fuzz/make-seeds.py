@@ -110,6 +110,10 @@ def workspace_seeds():
         "no-final-line-break": lines("T|", "o|", "b|", "t|", "1|u|", "1|f|", "1|i|", "1|c|")
         + b"1|a|",
         "lf-only": sample("harnwick.txt").replace(b"\r\n", b"\n"),
+        # Written on Windows: backslashes, letter case, Windows-1252 names, odd parts.
+        "windows-paths": lines("Spring|", "..\\SAMPLE\\Valdoria.OOB|", "\\\\|", "C:\\war\\x.inf|",
+                               "1|/TMP\\..\\Tmp|", "1|G\xe9n\xe9raux\\faces.BMP|", "1|.\\.|",
+                               "1|/|", "1|" + "..\\" * 60 + "|"),
         # -1 is written back as 255: the line grows past what the reader takes.
         "long-flag-line": lines("T|", "o|", "b|", "t|", "-1|" + "p" * 251),
     }

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <istream>
 
+#include "base/TextLines.h"
 #include "dialogs/AboutDlg.h"
 #include "platform/DataExchange.h"
 #include "resources/ResourceIds.h"
@@ -106,8 +107,8 @@ bool CMainDlg::OnInitDialog() {
     SetIcon(*m_hIcon, true);
     SetIcon(*m_hIcon, false);
 
-    std::ifstream startIni("START.INI", std::ios::in | std::ios::binary);
-    if (!startIni) {
+    std::ifstream startIni;
+    if (!OpenToRead("START.INI", startIni)) {
         MessageBox("Bad or missing START.INI file!", "Error", MB_ICONEXCLAMATION);
         EndDialog(-1);
         return true;

@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "base/FileOps.h"
+#include "base/PathResolve.h"
 #include "base/Result.h"
 
 namespace {
@@ -144,8 +145,9 @@ CWriteResult Commit(CFileOps& ops, const std::string& path, const std::string& t
 // A device or a pipe named as the output (/dev/null, /dev/stdout, a FIFO a script reads) is
 // written into, not replaced: renaming a file over it would put a plain file in place of the
 // device, and there is no old content to keep. Not flushed, since such files take no fsync.
-CWriteResult WriteInto(CFileOps& ops, const std::string& path, std::string_view bytes) {
-    const int fd = ops.Open(path, O_WRONLY, 0);
+CWriteResult WriteInto(CFileOps& ops, const std::string& path, const std::string& file,
+                       std::string_view bytes) {
+    const int fd = ops.Open(file, O_WRONLY, 0);
     if (fd < 0) {
         return Fail(path, errno);
     }
@@ -159,19 +161,21 @@ CWriteResult WriteInto(CFileOps& ops, const std::string& path, std::string_view 
 
 }  // namespace
 
+// Failures name path as the caller gave it; the file written is where it resolves to.
 CWriteResult ReplaceFile(const std::string& path, std::string_view bytes) {
     CFileOps& ops = FileOps();
+    const std::string file = ResolvePathToWrite(path);
     struct stat old;
     // The kernel follows the links here: some end at no path a hand-made walk could name
     // (/dev/stdout is a link to a pipe's descriptor).
-    const bool replacing = ::stat(path.c_str(), &old) == 0;
+    const bool replacing = ::stat(file.c_str(), &old) == 0;
     if (replacing && S_ISDIR(old.st_mode)) {
         return Fail(path, EISDIR);
     }
     if (replacing && !S_ISREG(old.st_mode)) {
-        return WriteInto(ops, path, bytes);
+        return WriteInto(ops, path, file, bytes);
     }
-    const std::string target = FollowLinks(path);
+    const std::string target = FollowLinks(file);
     const std::string temporary = TemporaryNameFor(target);
     const int fd = ops.Open(temporary, O_WRONLY | O_CREAT | O_EXCL, 0666);
     if (fd < 0) {
@@ -197,7 +201,7 @@ CWriteResult AppendToFile(const std::string& path, std::string_view bytes) {
     CFileOps& ops = FileOps();
     // Links are followed first, so that taking an append back removes or truncates the file
     // behind a link and never the link.
-    const std::string target = FollowLinks(path);
+    const std::string target = FollowLinks(ResolvePathToWrite(path));
     struct stat st;
     const bool existed = ::stat(target.c_str(), &st) == 0;
     const int fd = ops.Open(target, O_WRONLY | O_CREAT | O_APPEND, 0666);

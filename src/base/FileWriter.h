@@ -13,7 +13,8 @@
 // is there again. Gives RESULT_DONE or RESULT_CANNOT_WRITE with the file and the reason; on
 // failure no temporary file is left. On a file system that cannot exchange two names (FAT,
 // network file systems) the old file is renamed over instead, and a failure after that rename
-// is still reported though the new bytes stay.
+// is still reported though the new bytes stay. The file is where ResolvePathToWrite finds it; a
+// failure names path as given.
 CWriteResult ReplaceFile(const std::string& path, std::string_view bytes);
 
 // Saves an object whose own file is filePath under path: write replaces the file at path, and
@@ -28,5 +29,6 @@ CWriteResult SaveAs(std::string& filePath, const std::string& path, Write write)
     return result;
 }
 
-// Appends bytes to the file at path (created when missing), flushed to disk and checked.
+// Appends bytes to the file at path (found as ReplaceFile finds it; created when missing),
+// flushed to disk and checked.
 CWriteResult AppendToFile(const std::string& path, std::string_view bytes);

@@ -11,6 +11,8 @@
 #include <istream>
 #include <sstream>
 
+#include "base/PathResolve.h"
+
 LineRead ReadTextLine(std::istream& in, std::string& line) {
     if (!std::getline(in, line)) {
         line.clear();
@@ -26,7 +28,8 @@ LineRead ReadTextLine(std::istream& in, std::string& line) {
     return terminated ? LineRead::Line : LineRead::LastLine;
 }
 
-bool OpenToRead(const std::string& path, std::ifstream& in) {
+bool OpenToRead(const std::string& stored, std::ifstream& in) {
+    const std::string path = ResolvePath(stored);
     std::error_code error;
     if (std::filesystem::is_directory(path, error)) {
         return false;
@@ -35,7 +38,8 @@ bool OpenToRead(const std::string& path, std::ifstream& in) {
     return in.is_open();
 }
 
-bool ReadWholeFile(const std::string& path, std::string& text) {
+bool ReadWholeFile(const std::string& stored, std::string& text) {
+    const std::string path = ResolvePath(stored);
     std::error_code error;
     if (std::filesystem::is_directory(path, error)) {
         return false;

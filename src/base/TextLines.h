@@ -30,11 +30,12 @@ inline std::string_view TrimLine(std::string_view line) {
     return line.substr(0, kMaxLineLength);
 }
 
-// Opens path to be read in binary; false when it does not open or is a folder, which the stream
-// library would open and read as an empty file.
+// Opens the file path names (ResolvePath: a path written on Windows finds its file) to be read
+// in binary; false when it does not open or is a folder, which the stream library would open
+// and read as an empty file.
 bool OpenToRead(const std::string& path, std::ifstream& in);
 
-// The whole file at path; false when it does not open.
+// The whole file path names (as OpenToRead finds it); false when it does not open.
 bool ReadWholeFile(const std::string& path, std::string& text);
 
 // Files are written with CR LF whatever the host.

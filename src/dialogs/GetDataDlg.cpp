@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "base/PathResolve.h"
 #include "base/Result.h"
 #include "model/GameImport.h"
 #include "model/OobDocument.h"
@@ -120,7 +121,7 @@ bool CGetDataDlg::IsWorkspaceFile(const std::string& path) const {
     }
     for (const std::string& file : {workspace->m_strOobFile, workspace->m_strBackupFile}) {
         std::error_code error;
-        if (std::filesystem::equivalent(path, file, error)) {
+        if (std::filesystem::equivalent(path, ResolvePath(file), error)) {
             return true;
         }
     }

@@ -9,12 +9,16 @@
 #include "model/OobDocument.h"
 #include "model/Session.h"
 
+// Either path may have been written on Windows, so both separators end the target file's folder.
+// The joined path is resolved where it is opened.
 std::string TemplateFilePath(const CGameDatabase& database) {
-    const std::filesystem::path file(database.m_strTemplateFile);
-    if (file.empty() || file.is_absolute()) {
-        return database.m_strTemplateFile;
+    const std::string& file = database.m_strTemplateFile;
+    if (file.empty() || std::filesystem::path(file).is_absolute()) {
+        return file;
     }
-    return (std::filesystem::path(database.m_strFilePath).parent_path() / file).string();
+    const std::string& target = database.m_strFilePath;
+    const std::size_t separator = target.find_last_of("/\\");
+    return separator == std::string::npos ? file : target.substr(0, separator + 1) + file;
 }
 
 CWriteResult SaveTemplate(CSession& session, HTREEITEM entry,

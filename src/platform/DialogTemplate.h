@@ -41,6 +41,10 @@ enum : unsigned {
     STYLE_LINESATROOT = 1u << 14,
     STYLE_EDITLABELS = 1u << 15,  // tree: labels can be edited in place
     STYLE_NOTOOLTIPS = 1u << 16,
+    // A control whose text is a path: the file system's bytes, shown as UTF-8 when they are
+    // valid UTF-8 and as Windows-1252 otherwise (PathToUnicode), not as the Windows-1252 of
+    // every other text. Only the template knows which fields hold paths.
+    STYLE_PATH = 1u << 17,
 };
 
 struct CControlTemplate {

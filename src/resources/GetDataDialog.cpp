@@ -15,7 +15,8 @@ constexpr int kFieldX = 86;
 void AddFileRow(std::vector<CControlTemplate>& controls, int y, int pathId, int pickId,
                 unsigned style = 0) {
     controls.push_back({-1, K::Static, kLabelX, y + 2, 76, 8, "Data file"});
-    controls.push_back({pathId, K::Edit, kFieldX, y, 165, 12, "", STYLE_READONLY | style});
+    controls.push_back(
+        {pathId, K::Edit, kFieldX, y, 165, 12, "", STYLE_READONLY | STYLE_PATH | style});
     controls.push_back({pickId, K::Button, 254, y, 19, 12, "...", style});
 }
 

@@ -11,14 +11,14 @@ using K = ControlKind;
 void AddPictureRow(std::vector<CControlTemplate>& controls, int y, int switchId, int pathId,
                    const char* caption) {
     controls.push_back({switchId, K::CheckBox, 13, y, 60, 10, caption});
-    controls.push_back({pathId, K::Edit, 76, y - 1, 211, 12, "", STYLE_READONLY});
+    controls.push_back({pathId, K::Edit, 76, y - 1, 211, 12, "", STYLE_READONLY | STYLE_PATH});
 }
 
 // One file row: the label, the read-only path and its "..." picker (none for the title).
 void AddFileRow(std::vector<CControlTemplate>& controls, int y, const char* label, int pathId,
                 int pickId) {
     controls.push_back({-1, K::Static, 7, y + 2, 66, 8, label});
-    controls.push_back({pathId, K::Edit, 76, y, 195, 12, "", STYLE_READONLY});
+    controls.push_back({pathId, K::Edit, 76, y, 195, 12, "", STYLE_READONLY | STYLE_PATH});
     controls.push_back({pickId, K::Button, 274, y, 19, 12, "..."});
 }
 }  // namespace

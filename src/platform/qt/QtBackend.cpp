@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMessageBox>
 
+#include "base/PathResolve.h"
 #include "platform/Dialog.h"
 #include "platform/FileDialog.h"
 #include "platform/MessageBox.h"
@@ -71,7 +72,10 @@ int CQtBackend::MessageBox(CDialog* owner, const std::string& text, const std::s
             break;
     }
     const bool yesNo = (type & MB_TYPEMASK) == MB_YESNO;
-    QMessageBox box(icon, ToQString(caption), ToQString(text),
+    // Messages name files ("Bad or missing ... file!", a write's failure), so their text is read
+    // as a path is: the program's own Windows-1252 words are ASCII, and a name of the order of
+    // battle with accents is not valid UTF-8, so it still shows as Windows-1252.
+    QMessageBox box(icon, ToQString(caption), PathForDisplay(text),
                     yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, WindowOf(owner));
     const int pressed = box.exec();
     if (!yesNo) {
@@ -95,7 +99,7 @@ bool CQtBackend::RunFileDialog(const CFileDialog& request, std::string& path) {
         filters.push_back(description);
     }
     QFileDialog chooser(WindowOf(request.Parent()), QString(),
-                        PathToQString(request.m_strInitialDir));
+                        PathToQString(ResolvePath(request.m_strInitialDir)));
     chooser.setAcceptMode(request.IsOpenDialog() ? QFileDialog::AcceptOpen
                                                  : QFileDialog::AcceptSave);
     chooser.setFileMode(request.MustExist() ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -103,7 +107,7 @@ bool CQtBackend::RunFileDialog(const CFileDialog& request, std::string& path) {
     chooser.setDefaultSuffix(ToQString(request.DefaultExtension()));
     chooser.setOption(QFileDialog::DontConfirmOverwrite, !request.AsksBeforeOverwrite());
     if (!request.FileName().empty()) {
-        chooser.selectFile(PathToQString(request.FileName()));
+        chooser.selectFile(PathToQString(ResolvePath(request.FileName())));
     }
     if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
         return false;

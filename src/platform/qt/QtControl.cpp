@@ -65,7 +65,7 @@ void CQtControl::Sync() {
         m_nLowered = m_state.LoweredCount();
     }
     if (!m_bTextShown || m_state.GetWindowText() != m_shownText) {
-        ShowText(ToQString(m_state.GetWindowText()));
+        ShowText(ControlTextToQString(m_state, m_state.GetWindowText()));
         TextShown(m_state.GetWindowText());
     }
     if (m_state.IsWindowEnabled() != m_bEnabled) {

@@ -25,6 +25,7 @@ private:
     void OnTextChanged(const QString& text);
 
     QLineEdit* m_pEdit;
+    std::string m_setText;  // the text the program set last, for a path the user changes
     bool m_bShowing = false;
     int m_nLimit = -1;
 };

@@ -10,7 +10,10 @@ CQtEditControl::CQtEditControl(CWnd& state, QWidget* parent, CQtControlHost& hos
     : CQtControl(state, new QLineEdit(parent), host), m_pEdit(static_cast<QLineEdit*>(m_pWidget)) {
     m_pEdit->setReadOnly(state.IsReadOnly());
     m_pEdit->setAlignment(TextAlignment(state));
-    m_pEdit->setValidator(new CWindows1252Validator(state.HasStyle(STYLE_DIGITS), m_pEdit));
+    // A path takes any character: what Windows-1252 cannot hold goes into it as UTF-8.
+    if (!state.HasStyle(STYLE_PATH)) {
+        m_pEdit->setValidator(new CWindows1252Validator(state.HasStyle(STYLE_DIGITS), m_pEdit));
+    }
     // textChanged, not textEdited: text an assistive tool sets must reach the dialog as typing
     // does, or Accept would take the stale text.
     QObject::connect(m_pEdit, &QLineEdit::textChanged, m_pEdit,
@@ -22,7 +25,9 @@ void CQtEditControl::OnTextChanged(const QString& text) {
         return;
     }
     std::string bytes;
-    if (!FromQString(text, bytes)) {
+    if (m_state.HasStyle(STYLE_PATH)) {
+        bytes = PathFromDisplay(text, m_setText);
+    } else if (!FromQString(text, bytes)) {
         ShowStateText();  // set from outside with characters Windows-1252 cannot hold
         return;
     }
@@ -31,6 +36,7 @@ void CQtEditControl::OnTextChanged(const QString& text) {
 }
 
 void CQtEditControl::ShowText(const QString& text) {
+    m_setText = m_state.GetWindowText();
     m_bShowing = true;
     m_pEdit->setText(text);
     m_bShowing = false;

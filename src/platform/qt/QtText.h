@@ -7,13 +7,22 @@
 #include <string>
 #include <string_view>
 
+class CWnd;
+
 QString ToQString(std::string_view windows1252);
 // False when text holds a character Windows-1252 cannot hold.
 bool FromQString(const QString& text, std::string& windows1252);
 
-// Paths are the file system's own bytes, never converted.
+// Paths handed to and taken from Qt's file system classes, in the system's own encoding.
 QString PathToQString(const std::string& path);
 std::string PathFromQString(const QString& path);
+
+// A path as the user sees it (PathToUnicode), and the bytes of such a text the user may have
+// changed, given the path it showed (UnicodeToPath): an unchanged text gives original back.
+QString PathForDisplay(std::string_view path);
+std::string PathFromDisplay(const QString& text, std::string_view original);
+// The text of a control: a path (STYLE_PATH) as a path, anything else as Windows-1252.
+QString ControlTextToQString(const CWnd& control, std::string_view text);
 
 // Refuses typed text that Windows-1252 cannot hold, and in a digits-only edit anything but
 // digits.
