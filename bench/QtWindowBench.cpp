@@ -143,6 +143,9 @@ int main(int argc, char** argv) {
     // The main window reads its start folder from START.INI in the current folder.
     fs::current_path(folder);
     WriteBytes((folder / "START.INI").string(), folder.string() + "\n");
+    // The recent list and recovery copies go to the bench's folder, not the user's.
+    ::setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
+    ::setenv("XDG_STATE_HOME", folder.c_str(), 1);
     const fs::path targetPath = folder / "bench.inf";
     WriteBytes(targetPath.string(), MakeBenchTarget());
     CGameDatabase database;

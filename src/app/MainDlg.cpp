@@ -3,6 +3,7 @@
 #include <fstream>
 #include <istream>
 
+#include "app/UserFolders.h"
 #include "base/TextLines.h"
 #include "dialogs/AboutDlg.h"
 #include "platform/DataExchange.h"
@@ -28,6 +29,7 @@ std::string ReadStartDir(std::istream& in) {
 CMainDlg::CMainDlg()
     : CDialog(DialogResource(IDD_HARNWICK_DIALOG)), m_hIcon(&IconResource(IDR_MAINFRAME)) {
     MapCommands();
+    m_session.Edit().m_onChanged = [this] { OnTreeChanged(); };
 }
 
 CMainDlg::~CMainDlg() = default;
@@ -72,6 +74,10 @@ void CMainDlg::MapCommands() {
     OnCommand(ID_ABOUT, [this] { OnAbout(); });
     OnCommand(ID_EDIT_UNDO, [this] { OnUndo(); });
     OnCommand(ID_EDIT_REDO, [this] { OnRedo(); });
+    for (std::size_t i = 0; i < CRecentList::kMax; ++i) {
+        OnCommand(ID_FILE_MRU_FILE1 + static_cast<int>(i), [this, i] { OnRecentWorkspace(i); });
+    }
+    OnTimer(kRecoveryTimer, [this] { WriteRecoveryCopy(); });
     OnUpdateCommand(ID_EDIT_UNDO, [this] { return m_session.Edit().CanUndo(); });
     OnUpdateCommand(ID_EDIT_REDO, [this] { return m_session.Edit().CanRedo(); });
 
@@ -117,6 +123,11 @@ bool CMainDlg::OnInitDialog() {
     startIni.close();
 
     m_session.Close();
+    LoadRecentWorkspaces();
+    if (const std::string state = StateFolder(); !state.empty()) {
+        m_recovery.emplace(state);
+    }
+    OfferRecoveredCopies();
     UpdateData(false);
     return true;
 }
@@ -137,8 +148,13 @@ void CMainDlg::OnPaint(CPaintDC& dc) {
     dc.DrawIcon(x, y, *m_hIcon);
 }
 
+// Quitting saves nothing, but a change still waiting for its recovery copy gets it, so that
+// the next start can offer it.
 void CMainDlg::OnExit() {
     if (MessageBox("Do you want to quit?", "Exit", MB_YESNO | MB_ICONQUESTION) == IDYES) {
+        if (m_bRecoveryDue) {
+            WriteRecoveryCopy();
+        }
         EndDialog(0);
     }
 }

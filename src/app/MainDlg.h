@@ -8,7 +8,9 @@
 #include <string>
 
 #include "app/EditorPrompts.h"
+#include "app/RecentList.h"
 #include "base/Result.h"
+#include "model/RecoveryFolder.h"
 #include "model/Session.h"
 #include "model/TreeCommands.h"
 #include "platform/Dialog.h"
@@ -30,6 +32,18 @@ public:
     // The order of battle the tree control shows: the session's store.
     const CTreeStore& m_tree = m_session.Tree();
     const CPixelImage* m_hIcon;
+    // The workspaces opened last, shown in File, Recent workspaces, and the file that keeps them
+    // (none without a configuration folder).
+    CRecentList m_recent;
+    std::string m_strRecentFile;
+    // Where a copy of the order of battle is kept while it has unsaved changes (none without a
+    // state folder), and the workspace whose copy this run has written there.
+    std::optional<CRecoveryFolder> m_recovery;
+    std::string m_strRecoveryOf;
+
+    // A change waits this long for the next before the copy is written.
+    static constexpr unsigned kRecoveryDelayMs = 1000;
+    static constexpr int kRecoveryTimer = 1;
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
@@ -76,10 +90,12 @@ protected:
     void OnAbout();
     void OnUndo();
     void OnRedo();
+    void OnRecentWorkspace(std::size_t index);
 
     // Helpers of the File commands. SaveFilesPrompt gives false when the user wanted the files
-    // saved and a write failed, so that the command that asked goes no further.
-    bool SaveFilesPrompt();
+    // saved and a write failed, so that the command that asked goes no further. A command that
+    // is to replace the tree (New, Load) passes replacing: a No then discards the recovery copy.
+    bool SaveFilesPrompt(bool replacing = false);
     void OpenWorkspace(std::unique_ptr<CWorkspace> workspace,
                        std::unique_ptr<CGameDatabase> database);
     // Copies the file source into destination; RESULT_DONE, RESULT_CANNOT_OPEN (source) or
@@ -88,6 +104,19 @@ protected:
 
 private:
     void MapCommands();
+    // The recent list: read at start, a workspace opened put first, the menu shown anew.
+    void LoadRecentWorkspaces();
+    void RememberWorkspace(const std::string& path);
+    void ShowRecentWorkspaces();
+    // The recovery copy: its timer started on a change while the order-of-battle field is "*",
+    // the copy written when it fires, and removed once the field is " " again.
+    void OnTreeChanged();
+    void WriteRecoveryCopy();
+    void DiscardRecoveryCopy();
+    // At start, each copy newer than its file is offered: restored (the workspace opened with
+    // the copy's tree, unsaved) or discarded.
+    void OfferRecoveredCopies();
+    bool RestoreRecoveredCopy(const CRecoveryFolder::CCopy& copy);
     // The steps New Empty and New Existing share.
     void NewWorkspace(const char* question, std::uint16_t oobOpenMode, bool createDefault);
     // Asks with Yes and No; true on Yes.
@@ -101,6 +130,8 @@ private:
     // Add child and Add next: the type asked for, the new item put at place and, for a unit,
     // leader or supply train, its editor opened; false when nothing was added.
     bool AddNewItem(int command, const std::optional<CAddPlace>& place);
+
+    bool m_bRecoveryDue = false;  // a change waits for its copy
 };
 
 // The start folder from START.INI's first line: up to the line feed, one carriage return

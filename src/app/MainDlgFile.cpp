@@ -55,9 +55,17 @@ std::unique_ptr<CWorkspace> CMainDlg::EditNewWorkspace(const std::string& path, 
 
 // A write that fails leaves the status fields as they were, and the command that asked (New
 // or Load) stops, so that the changes are not thrown away with the tree.
-bool CMainDlg::SaveFilesPrompt() {
-    if (std::string(m_session.OobStatus()) != "*" ||
-        !Ask("Do you want to save your files?", "Save")) {
+bool CMainDlg::SaveFilesPrompt(bool replacing) {
+    if (std::string(m_session.OobStatus()) != "*") {
+        return true;
+    }
+    if (!Ask("Do you want to save your files?", "Save")) {
+        if (replacing) {
+            // The changes are given up. Should the command end without replacing the tree after
+            // all, the timer writes the copy again.
+            DiscardRecoveryCopy();
+            OnTreeChanged();
+        }
         return true;
     }
     if (const CWriteResult written = m_session.Save(); !written.Done()) {
@@ -71,7 +79,9 @@ bool CMainDlg::SaveFilesPrompt() {
 // The workspace replaces the open one, with the tree its order-of-battle file holds.
 void CMainDlg::OpenWorkspace(std::unique_ptr<CWorkspace> workspace,
                              std::unique_ptr<CGameDatabase> database) {
+    const std::string path = workspace->m_strPath;
     m_session.Open(std::move(workspace), std::move(database));
+    RememberWorkspace(path);
     UpdateData(false);
 }
 
@@ -84,7 +94,7 @@ CWriteResult CMainDlg::CopyFileText(const std::string& source, const std::string
 }
 
 void CMainDlg::NewWorkspace(const char* question, std::uint16_t oobOpenMode, bool createDefault) {
-    if (!Ask(question, "New") || !SaveFilesPrompt()) {
+    if (!Ask(question, "New") || !SaveFilesPrompt(true)) {
         return;
     }
     const std::optional<std::string> path = PickWorkspaceFile(false);
@@ -123,7 +133,7 @@ void CMainDlg::OnNewExistingOob() {
 // leaves the open workspace as it was.
 void CMainDlg::OnNewAttachedOob() {
     if (!Ask("Do you want to make a new Order of Battle basing on an attached one?", "New") ||
-        !SaveFilesPrompt()) {
+        !SaveFilesPrompt(true)) {
         return;
     }
     const std::optional<std::string> path = PickWorkspaceFile(false);
@@ -160,7 +170,7 @@ void CMainDlg::OnNewAttachedOob() {
 }
 
 void CMainDlg::OnLoad() {
-    if (!Ask("Do you want to load an existing workspace?", "Load") || !SaveFilesPrompt()) {
+    if (!Ask("Do you want to load an existing workspace?", "Load") || !SaveFilesPrompt(true)) {
         return;
     }
     const std::optional<std::string> path = PickWorkspaceFile(true);

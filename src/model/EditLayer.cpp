@@ -22,6 +22,7 @@ void CEditLayer::Reset() {
     m_nGroupDepth = 0;
     m_oobClean = 0;
     m_backupClean.reset();
+    Changed();
 }
 
 void CEditLayer::BeginGroup() {
@@ -36,6 +37,7 @@ void CEditLayer::EndGroup() {
         m_group.reset();
         if (!step.commands.empty()) {
             Push(std::move(step));
+            Changed();
         }
     }
 }
@@ -95,6 +97,7 @@ void CEditLayer::Undo() {
     }
     m_session.m_mark = step.found;
     tree.SelectItem(step.caretBefore);
+    Changed();
 }
 
 void CEditLayer::Redo() {
@@ -110,6 +113,7 @@ void CEditLayer::Redo() {
         CheckMark(command->EndsMark());
     }
     tree.SelectItem(step.caretAfter);
+    Changed();
 }
 
 HTREEITEM CEditLayer::Insert(HTREEITEM parent, const std::function<void(CTreeStore&)>& fill) {

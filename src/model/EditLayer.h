@@ -86,13 +86,20 @@ public:
     // backup holds something else.
     void Reset();
     // The tree as it stands is what the order-of-battle file (the backup file) holds.
-    void MarkSaved() { m_oobClean = Position(); }
+    void MarkSaved() {
+        m_oobClean = Position();
+        Changed();
+    }
     void MarkBackedUp() { m_backupClean = Position(); }
     // A group still open has changed the tree already (an Add whose editor is still open).
     bool OobClean() const { return m_oobClean == Position() && !GroupChanged(); }
     bool BackupClean() const { return m_backupClean == Position() && !GroupChanged(); }
 
     std::size_t UndoCount() const { return m_nDone; }
+
+    // Told after every step done, undone or redone, a reset of the history and a save: whenever
+    // the tree or what its file holds may have changed.
+    std::function<void()> m_onChanged;
     std::size_t RedoCount() const { return m_steps.size() - m_nDone; }
 
 private:
@@ -112,6 +119,11 @@ private:
     int WholeTree(bool copyFirst, const std::function<int(CTreeStore&)>& fill);
     std::size_t Position() const { return m_nDropped + m_nDone; }
     bool GroupChanged() const { return m_group && !m_group->commands.empty(); }
+    void Changed() const {
+        if (m_onChanged) {
+            m_onChanged();
+        }
+    }
 
     CSession& m_session;
     std::deque<CStep> m_steps;

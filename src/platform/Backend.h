@@ -33,6 +33,11 @@ public:
     // A point in control id's client coordinates, in screen coordinates.
     virtual CPoint ClientToScreen(int id, CPoint point) const = 0;
     virtual void SetIcon(const CPixelImage& icon, bool big) = 0;
+    // Timer id fires every elapseMs from now on (set again: from now on), until killed.
+    virtual void SetTimer(int id, unsigned elapseMs) = 0;
+    virtual void KillTimer(int id) = 0;
+    // The entries of the menu's list listId have changed.
+    virtual void MenuListChanged(int listId) = 0;
 };
 
 class CBackend {

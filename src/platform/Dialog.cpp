@@ -107,6 +107,50 @@ void CDialog::RedrawWindow() {
     }
 }
 
+bool CDialog::SetTimer(int timerId, unsigned elapseMs) {
+    if (!IsRunning()) {
+        return false;
+    }
+    m_pWindow->SetTimer(timerId, elapseMs);
+    return true;
+}
+
+void CDialog::KillTimer(int timerId) {
+    if (m_pWindow) {
+        m_pWindow->KillTimer(timerId);
+    }
+}
+
+void CDialog::SetMenuList(int listId, std::vector<CMenuItem> entries) {
+    m_menuLists[listId] = std::move(entries);
+    if (m_pWindow) {
+        m_pWindow->MenuListChanged(listId);
+    }
+}
+
+const std::vector<CMenuItem>& CDialog::MenuList(int listId) const {
+    static const std::vector<CMenuItem> none;
+    auto found = m_menuLists.find(listId);
+    return found == m_menuLists.end() ? none : found->second;
+}
+
+bool CDialog::HasMenuCommand(int id) const {
+    if (m_resource.menu == nullptr) {
+        return false;
+    }
+    if (m_resource.menu->HasCommand(id)) {
+        return true;
+    }
+    for (const auto& [listId, entries] : m_menuLists) {
+        for (const CMenuItem& entry : entries) {
+            if (entry.id == id && m_resource.menu->HasList(listId)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 bool CDialog::OnInitDialog() {
     UpdateData(false);
     return true;
@@ -136,6 +180,10 @@ void CDialog::OnCommand(int id, std::function<void()> handler) {
 
 void CDialog::OnKillFocus(int editId, std::function<void()> handler) {
     m_handlers[{Event::KillFocus, editId}] = std::move(handler);
+}
+
+void CDialog::OnTimer(int timerId, std::function<void()> handler) {
+    m_handlers[{Event::Timer, timerId}] = std::move(handler);
 }
 
 void CDialog::OnUpdateCommand(int id, std::function<bool()> enabled) {

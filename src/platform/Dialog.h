@@ -59,6 +59,18 @@ public:
     // Shows the controls as they now are and repaints at once (RedrawWindow with update-now).
     void RedrawWindow();
 
+    // Runs the handler given to OnTimer for timerId every elapseMs while the dialog runs; a
+    // timer set again starts counting anew. False when the dialog is not running.
+    bool SetTimer(int timerId, unsigned elapseMs);
+    void KillTimer(int timerId);
+
+    // The commands the menu's list listId offers now (see CMenuItem::list); kept from one run
+    // of the dialog to the next.
+    void SetMenuList(int listId, std::vector<CMenuItem> entries);
+    const std::vector<CMenuItem>& MenuList(int listId) const;
+    // Whether the menu offers command id now: in its template or in one of its lists.
+    bool HasMenuCommand(int id) const;
+
     // False for a menu command whose update handler says it is disabled: it is shown greyed
     // and neither its entry nor its keys run it.
     bool IsCommandEnabled(int id) const;
@@ -81,6 +93,7 @@ protected:
     // used); a command without one always can.
     void OnUpdateCommand(int id, std::function<bool()> enabled);
     void OnKillFocus(int editId, std::function<void()> handler);
+    void OnTimer(int timerId, std::function<void()> handler);
     void OnSelChange(int listId, std::function<void()> handler);
     void OnTreeRightClick(int treeId, std::function<void()> handler);
     void OnTreeDoubleClick(int treeId, std::function<void()> handler);
@@ -92,7 +105,7 @@ private:
     friend class CWnd;
     friend class CDialogDriver;
 
-    enum class Event { Command, KillFocus, SelChange, TreeRightClick, TreeDoubleClick };
+    enum class Event { Command, KillFocus, SelChange, TreeRightClick, TreeDoubleClick, Timer };
 
     void MoveFocus(int id);
     void SetInitialFocus();
@@ -105,6 +118,7 @@ private:
     std::map<std::pair<Event, int>, std::function<void()>> m_handlers;
     std::map<int, std::function<bool(HTREEITEM, const std::string*)>> m_labelEditHandlers;
     std::map<int, std::function<bool()>> m_updateHandlers;
+    std::map<int, std::vector<CMenuItem>> m_menuLists;
     std::unique_ptr<CDialogWindow> m_pWindow;
     int m_nFocus = kNoFocus;
     int m_nResult = IDCANCEL;

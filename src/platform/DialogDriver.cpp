@@ -87,3 +87,9 @@ bool CDialogDriver::TreeEndLabelEdit(int treeId, HTREEITEM entry, const std::str
 void CDialogDriver::Paint(CPaintDC& dc) {
     m_dialog.OnPaint(dc);
 }
+
+void CDialogDriver::Timer(int id) {
+    if (m_dialog.IsRunning()) {
+        m_dialog.Dispatch(CDialog::Event::Timer, id);
+    }
+}

@@ -36,6 +36,8 @@ public:
     // becomes text when the handler keeps it; gives whether it did.
     bool TreeEndLabelEdit(int treeId, HTREEITEM entry, const std::string* text);
     void Paint(CPaintDC& dc);
+    // Timer id has fired.
+    void Timer(int id);
 
 private:
     CDialog& m_dialog;

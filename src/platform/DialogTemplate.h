@@ -59,16 +59,19 @@ struct CControlTemplate {
     const CPixelImage* image = nullptr;  // what an Icon control shows
 };
 
-// Menu entries: a command (id), a pop-up (children) or a separator (neither).
+// Menu entries: a command (id), a pop-up (children) or a separator (neither). A list is a
+// pop-up whose commands the running dialog gives and changes (CDialog::SetMenuList with the
+// list's id), such as the files opened last.
 struct CMenuItem {
     std::string text{};
     int id = 0;
     std::vector<CMenuItem> popup{};
     // Keys that run the command ("Ctrl+Z"); the first is shown beside the entry.
     std::vector<std::string> keys{};
+    bool list = false;
 
-    bool IsSeparator() const { return id == 0 && popup.empty(); }
-    bool IsPopup() const { return !popup.empty(); }
+    bool IsSeparator() const { return id == 0 && popup.empty() && !list; }
+    bool IsPopup() const { return !popup.empty() || list; }
 };
 
 struct CMenuTemplate {
@@ -79,6 +82,8 @@ struct CMenuTemplate {
     const CMenuItem& GetSubMenu(int pos) const { return items.at(static_cast<std::size_t>(pos)); }
     // True when some entry, at any depth, sends command id.
     bool HasCommand(int id) const;
+    // True when some entry, at any depth, is the list listId.
+    bool HasList(int listId) const;
 };
 
 // Dialog styles (bit set).

@@ -6,28 +6,33 @@
 namespace {
 const CMenuItem kSeparator{};
 
-std::vector<CMenuItem> AddMenu(int unit, int leader, int supply, int structure, int paste,
-                               int templ) {
-    return {{"&Unit", unit}, {"&Leader", leader}, {"&Supply", supply}, {"St&ructure", structure},
-            kSeparator,      {"&Paste", paste},   kSeparator,          {"&Template", templ}};
+std::vector<CMenuItem> AddMenu(int unit, int leader, int supply, int structure,
+                               const CMenuItem& paste, int templ) {
+    return {{"&Unit", unit},     {"&Leader", leader},
+            {"&Supply", supply}, {"St&ructure", structure},
+            kSeparator,          paste,
+            kSeparator,          {"&Template", templ}};
 }
 
+// The keys are Ctrl with a letter, Delete, and the F keys; a menu's mnemonics are Alt with a
+// letter, so the two never meet.
 CMenuTemplate MakeMainMenu() {
     CMenuItem file{"&File", 0, {}};
     file.popup = {
         {"&New",
          0,
-         {{"&Empty OOB", ID_FILE_NEW_EMPTY},
+         {{"&Empty OOB", ID_FILE_NEW_EMPTY, {}, {"Ctrl+N"}},
           {"&Attached OOB", ID_FILE_NEW_ATTACHED},
           {"Exi&sting OOB", ID_FILE_NEW_EXISTING}}},
         kSeparator,
-        {"&Load", ID_FILE_LOAD},
-        {"&Save", ID_FILE_SAVE},
+        {"&Load", ID_FILE_LOAD, {}, {"Ctrl+O"}},
+        {"&Recent workspaces", ID_FILE_RECENT, {}, {}, true},
+        {"&Save", ID_FILE_SAVE, {}, {"Ctrl+S"}},
         {"Save &as...", ID_FILE_SAVE_AS},
         kSeparator,
         {"&Properties", ID_FILE_PROPERTIES},
         kSeparator,
-        {"E&xit", ID_FILE_EXIT},
+        {"E&xit", ID_FILE_EXIT, {}, {"Ctrl+Q"}},
     };
     CMenuItem edit{"&Edit", 0, {}};
     edit.popup = {
@@ -36,17 +41,20 @@ CMenuTemplate MakeMainMenu() {
         kSeparator,
         {"&Properties", ID_EDIT_PROPERTIES},
         kSeparator,
-        {"&Copy", ID_EDIT_COPY},
-        {"Cu&t", ID_EDIT_CUT},
+        {"&Copy", ID_EDIT_COPY, {}, {"Ctrl+C"}},
+        {"Cu&t", ID_EDIT_CUT, {}, {"Ctrl+X"}},
         kSeparator,
         {"Add &next", 0,
          AddMenu(ID_ADD_NEXT_UNIT, ID_ADD_NEXT_LEADER, ID_ADD_NEXT_SUPPLY, ID_ADD_NEXT_STRUCTURE,
-                 ID_ADD_NEXT_PASTE, ID_ADD_NEXT_TEMPLATE)},
+                 {"&Paste", ID_ADD_NEXT_PASTE, {}, {"Ctrl+V"}}, ID_ADD_NEXT_TEMPLATE)},
         {"Add &child", 0,
          AddMenu(ID_ADD_CHILD_UNIT, ID_ADD_CHILD_LEADER, ID_ADD_CHILD_SUPPLY,
-                 ID_ADD_CHILD_STRUCTURE, ID_ADD_CHILD_PASTE, ID_ADD_CHILD_TEMPLATE)},
+                 ID_ADD_CHILD_STRUCTURE, {"&Paste", ID_ADD_CHILD_PASTE, {}, {"Ctrl+Shift+V"}},
+                 ID_ADD_CHILD_TEMPLATE)},
         kSeparator,
-        {"&Delete", 0, {{"This &item", ID_DELETE_ITEM}, {"&Child items", ID_DELETE_CHILDREN}}},
+        {"&Delete",
+         0,
+         {{"This &item", ID_DELETE_ITEM, {}, {"Del"}}, {"&Child items", ID_DELETE_CHILDREN}}},
         kSeparator,
         {"&Save to file", ID_EDIT_SAVE_TO_FILE},
         {"Save as template", ID_EDIT_SAVE_AS_TEMPLATE},
@@ -55,7 +63,7 @@ CMenuTemplate MakeMainMenu() {
     options.popup = {
         {"Armies summary", ID_OPTIONS_ARMIES_SUMMARY},
         kSeparator,
-        {"&Find item", ID_OPTIONS_FIND},
+        {"&Find item", ID_OPTIONS_FIND, {}, {"Ctrl+F"}},
         kSeparator,
         {"&Backup", 0, {{"Save OOB", ID_BACKUP_SAVE}, {"Restore OOB", ID_BACKUP_RESTORE}}},
         kSeparator,

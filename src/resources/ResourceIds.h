@@ -229,6 +229,8 @@ enum : int {
     ID_OPTIONS_GET_DATA = 32814,
     ID_OPTIONS_SAVE_TARGET = 32815,
     ID_OPTIONS_ARMIES_SUMMARY = 32816,
+    ID_FILE_RECENT = 32817,     // the list of workspaces opened last
+    ID_FILE_MRU_FILE1 = 57616,  // its entries, the most recent first
 };
 
 // The position of the Edit menu on the menu bar; it is also the tree's right-click menu.

@@ -1,5 +1,6 @@
-// A copy of the sample in a temporary folder, made the working folder while it lives (Accept of
-// the workspace dialog writes the workspace file back), and its Load through the real menu.
+// A copy of the sample in a temporary folder, made the working folder and the user's
+// configuration and state folders while it lives (Accept of the workspace dialog writes the
+// workspace file back), and its Load through the real menu.
 #pragma once
 
 #include <QAction>
@@ -22,6 +23,9 @@ public:
                                   m_folder.path().toStdString() / file.path().filename());
         }
         std::filesystem::current_path(m_folder.path().toStdString());
+        // The recent list and recovery copies go to the copy's folder, not the user's.
+        qputenv("XDG_CONFIG_HOME", m_folder.path().toUtf8());
+        qputenv("XDG_STATE_HOME", m_folder.path().toUtf8());
     }
     ~CSampleCopy() { std::filesystem::current_path(m_before); }
 

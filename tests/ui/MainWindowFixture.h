@@ -1,5 +1,6 @@
 // The fixture of the main window's tests: a copy of the sample workspace in a fresh folder named
-// by START.INI, the main window run with a script, and the steps the File commands begin with.
+// by START.INI, the user's configuration and state folders inside it, the main window run with a
+// script, and the steps the File commands begin with.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -44,6 +45,8 @@ protected:
             std::filesystem::copy_file(std::string(HW_SAMPLE_DIR) + "/" + name, folder / name);
         }
         WriteBytes(folder / "START.INI", folder.Path() + "\r\n");
+        ::setenv("XDG_CONFIG_HOME", (folder / "config").c_str(), 1);
+        ::setenv("XDG_STATE_HOME", (folder / "state").c_str(), 1);
     }
 
     // Runs the main window with script, and quits it afterwards unless the script did; gives its

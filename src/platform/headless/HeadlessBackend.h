@@ -5,6 +5,7 @@
 // showed; so is an answer or script left unused.
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -85,6 +86,11 @@ public:
 
     void SetShiftDown(bool down) { m_bShiftDown = down; }
 
+    // The scripted clock in milliseconds: it moves only when a script waits
+    // (CHeadlessUser::Wait).
+    std::uint64_t Now() const { return m_nNow; }
+    void SetNow(std::uint64_t now) { m_nNow = now; }
+
     // The base units the headless windows measure dialog units with (8-point MS Sans Serif).
     static constexpr int kBaseUnitX = 6;
     static constexpr int kBaseUnitY = 13;
@@ -116,4 +122,5 @@ private:
     std::vector<std::string> m_failures;
     std::function<void(const std::string&)> m_onFailure;
     bool m_bShiftDown = false;
+    std::uint64_t m_nNow = 0;
 };

@@ -154,8 +154,7 @@ void CHeadlessUser::Command(int id) {
     if (!Open("menu command")) {
         return;
     }
-    const CMenuTemplate* menu = m_dialog.Resource().menu;
-    if (menu == nullptr || !menu->HasCommand(id)) {
+    if (!m_dialog.HasMenuCommand(id)) {
         m_backend.Fail("menu command " + std::to_string(id) + ": not in the menu of dialog " +
                        std::to_string(m_dialog.Resource().id));
         return;
@@ -209,6 +208,12 @@ bool CHeadlessUser::EditLabel(int treeId, HTREEITEM entry, const std::optional<s
 
 void CHeadlessUser::Minimise(bool iconic) {
     m_window.SetIconic(iconic);
+}
+
+void CHeadlessUser::Wait(unsigned ms) {
+    if (Open("wait")) {
+        m_window.Wait(ms);
+    }
 }
 
 std::string CHeadlessUser::Text(int id) const {

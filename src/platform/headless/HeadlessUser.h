@@ -45,6 +45,8 @@ public:
     // tree kept the text.
     bool EditLabel(int treeId, HTREEITEM entry, const std::optional<std::string>& text);
     void Minimise(bool iconic);
+    // Lets ms milliseconds pass on the scripted clock; the dialog's timers fire as they fall due.
+    void Wait(unsigned ms);
 
     std::string Text(int id) const;
     bool IsEnabled(int id) const;

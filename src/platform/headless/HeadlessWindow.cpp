@@ -97,3 +97,29 @@ CPoint CHeadlessWindow::ClientToScreen(int id, CPoint point) const {
 void CHeadlessWindow::SetIcon(const CPixelImage& icon, bool big) {
     (big ? m_pBigIcon : m_pSmallIcon) = &icon;
 }
+
+void CHeadlessWindow::SetTimer(int id, unsigned elapseMs) {
+    m_timers[id] = CTimer{elapseMs, m_backend.Now() + elapseMs};
+}
+
+// A timer of no interval fires once a millisecond, so that waiting always ends.
+void CHeadlessWindow::Wait(unsigned ms) {
+    const std::uint64_t end = m_backend.Now() + ms;
+    while (m_dialog.IsRunning()) {
+        auto next = m_timers.end();
+        for (auto it = m_timers.begin(); it != m_timers.end(); ++it) {
+            if (it->second.due <= end &&
+                (next == m_timers.end() || it->second.due < next->second.due)) {
+                next = it;
+            }
+        }
+        if (next == m_timers.end()) {
+            break;
+        }
+        const int id = next->first;
+        m_backend.SetNow(next->second.due);
+        next->second.due += next->second.elapse == 0 ? 1 : next->second.elapse;
+        CDialogDriver(m_dialog).Timer(id);
+    }
+    m_backend.SetNow(end);
+}

@@ -121,6 +121,8 @@ void FillMenu(QMenu& menu, const std::vector<CMenuItem>& items, const CDialog& o
     for (const CMenuItem& item : items) {
         if (item.IsSeparator()) {
             menu.addSeparator();
+        } else if (item.list) {
+            FillMenu(*menu.addMenu(ToQString(item.text)), owner.MenuList(item.id), owner);
         } else if (item.IsPopup()) {
             FillMenu(*menu.addMenu(ToQString(item.text)), item.popup, owner);
         } else {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMenuBar>
 #include <QPainter>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "platform/Dialog.h"
@@ -88,16 +89,59 @@ void CQtDialogWindow::BuildMenu(QMenu* menu, const std::vector<CMenuItem>& items
     for (const CMenuItem& item : items) {
         if (item.IsSeparator()) {
             menu->addSeparator();
+        } else if (item.list) {
+            m_lists[item.id] = menu->addMenu(ToQString(item.text));
+            FillList(item.id);
         } else if (item.IsPopup()) {
             BuildMenu(menu->addMenu(ToQString(item.text)), item.popup);
         } else {
-            const int id = item.id;
-            QAction* action = AddMenuCommand(*menu, item);
-            m_menuCommands.push_back(action);
-            QObject::connect(action, &QAction::triggered, m_pWindow, [this, id] {
-                Handle([id](CDialogDriver& driver) { driver.Command(id); });
-            });
+            AddCommand(menu, item);
         }
+    }
+}
+
+void CQtDialogWindow::AddCommand(QMenu* menu, const CMenuItem& item) {
+    const int id = item.id;
+    QAction* action = AddMenuCommand(*menu, item);
+    m_menuCommands.push_back(action);
+    QObject::connect(action, &QAction::triggered, m_pWindow,
+                     [this, id] { Handle([id](CDialogDriver& driver) { driver.Command(id); }); });
+}
+
+// An empty list shows greyed, as a menu with nothing to choose.
+void CQtDialogWindow::FillList(int listId) {
+    QMenu* menu = m_lists.at(listId);
+    for (QAction* old : menu->actions()) {
+        std::erase(m_menuCommands, old);
+    }
+    menu->clear();
+    const std::vector<CMenuItem>& entries = m_dialog.MenuList(listId);
+    for (const CMenuItem& entry : entries) {
+        AddCommand(menu, entry);
+    }
+    menu->menuAction()->setEnabled(!entries.empty());
+}
+
+void CQtDialogWindow::MenuListChanged(int listId) {
+    if (m_lists.count(listId) != 0) {
+        FillList(listId);
+        Sync();
+    }
+}
+
+void CQtDialogWindow::SetTimer(int id, unsigned elapseMs) {
+    QTimer*& timer = m_timers[id];
+    if (timer == nullptr) {
+        timer = new QTimer(m_pWindow);
+        QObject::connect(timer, &QTimer::timeout, m_pWindow,
+                         [this, id] { Handle([id](CDialogDriver& driver) { driver.Timer(id); }); });
+    }
+    timer->start(static_cast<int>(elapseMs));
+}
+
+void CQtDialogWindow::KillTimer(int id) {
+    if (auto found = m_timers.find(id); found != m_timers.end()) {
+        found->second->stop();
     }
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QPointer>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,6 +19,7 @@ class CQtDialog;
 class CQtClientArea;
 class QAction;
 class QMenu;
+class QTimer;
 class QWidget;
 struct CMenuItem;
 
@@ -35,6 +37,9 @@ public:
     CRect GetTreeItemRect(int treeId, HTREEITEM entry) const override;
     CPoint ClientToScreen(int id, CPoint point) const override;
     void SetIcon(const CPixelImage& icon, bool big) override;
+    void SetTimer(int id, unsigned elapseMs) override;
+    void KillTimer(int id) override;
+    void MenuListChanged(int listId) override;
 
     QWidget* Window() const;
     CDialog& Dialog() const { return m_dialog; }
@@ -47,6 +52,9 @@ private:
 
     void BuildControls();
     void BuildMenu(QMenu* menu, const std::vector<CMenuItem>& items);
+    void AddCommand(QMenu* menu, const CMenuItem& item);
+    // A list's entries, in place of those it showed.
+    void FillList(int listId);
     void OnFocusChanged(QWidget* now);
     CQtControl* Find(int id) const;
 
@@ -56,6 +64,8 @@ private:
     CQtClientArea* m_pClient = nullptr;
     std::vector<std::unique_ptr<CQtControl>> m_controls;
     std::vector<QAction*> m_menuCommands;  // the menu bar's command entries
+    std::map<int, QMenu*> m_lists;         // the menu's lists by id
+    std::map<int, QTimer*> m_timers;
     int m_nBaseX = 6;
     int m_nBaseY = 13;
     bool m_bMovingFocus = false;

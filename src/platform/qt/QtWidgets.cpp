@@ -61,6 +61,17 @@ QWidget* CQtLabelDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
                                         const QModelIndex& index) const {
     auto* editor = new QLineEdit(parent);
     editor->setValidator(new CWindows1252Validator(false, editor));
+    // Every key goes to the label while it is edited, none to the menu's keys: Delete, Ctrl+C
+    // and the like edit the text, not the tree.
+    editor->installEventFilter(new CQtEventFilter(
+        [](QObject*, QEvent* event) {
+            if (event->type() != QEvent::ShortcutOverride) {
+                return false;
+            }
+            event->accept();
+            return true;
+        },
+        editor));
     m_hEditing = m_model.EntryOf(index);
     m_bCommitted = false;
     return editor;
