@@ -122,8 +122,11 @@ bool CMainDlg::OnInitDialog() {
     m_strStartDir = ReadStartDir(startIni);
     startIni.close();
 
+    // A run starts with no copy of its own; those earlier runs left are offered below.
+    m_strRecoveryOf.clear();
     m_session.Close();
     LoadRecentWorkspaces();
+    m_recovery.reset();
     if (const std::string state = StateFolder(); !state.empty()) {
         m_recovery.emplace(state);
     }

@@ -24,8 +24,10 @@ public:
     void Log(std::string event) { log.push_back(std::move(event)); }
 
     using CDialog::OnClicked;
+    using CDialog::OnCommand;
     using CDialog::OnKillFocus;
     using CDialog::OnSelChange;
+    using CDialog::OnTimer;
     using CDialog::OnTreeDoubleClick;
     using CDialog::OnTreeEndLabelEdit;
     using CDialog::OnTreeRightClick;
