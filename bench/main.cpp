@@ -13,6 +13,7 @@
 #include "BenchData.h"
 #include "BenchTimer.h"
 #include "HistoryBench.h"
+#include "RecoveryBench.h"
 #include "base/Result.h"
 #include "gamedata/GameDatabase.h"
 #include "model/GameImport.h"
@@ -155,6 +156,7 @@ int main() {
            PerEntry(large.save, large.entries) / PerEntry(small.save, small.entries), 1.5);
     MeasureHistory(folder.string(), targetPath);
     MeasureTreeCommands(folder.string(), targetPath);
+    MeasureRecovery(folder.string(), targetPath);
     fs::remove_all(folder);
     return 0;
 }
