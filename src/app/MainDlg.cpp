@@ -78,6 +78,10 @@ void CMainDlg::MapCommands() {
         OnCommand(ID_FILE_MRU_FILE1 + static_cast<int>(i), [this, i] { OnRecentWorkspace(i); });
     }
     OnTimer(kRecoveryTimer, [this] { WriteRecoveryCopy(); });
+    OnTimer(kOfferTimer, [this] {
+        KillTimer(kOfferTimer);
+        OfferRecoveredCopies();
+    });
     OnUpdateCommand(ID_EDIT_UNDO, [this] { return m_session.Edit().CanUndo(); });
     OnUpdateCommand(ID_EDIT_REDO, [this] { return m_session.Edit().CanRedo(); });
 
@@ -122,7 +126,8 @@ bool CMainDlg::OnInitDialog() {
     m_strStartDir = ReadStartDir(startIni);
     startIni.close();
 
-    // A run starts with no copy of its own; those earlier runs left are offered below.
+    // A run starts with no copy of its own; those earlier runs left are offered once the
+    // window is up.
     m_strRecoveryOf.clear();
     m_session.Close();
     LoadRecentWorkspaces();
@@ -130,7 +135,7 @@ bool CMainDlg::OnInitDialog() {
     if (const std::string state = StateFolder(); !state.empty()) {
         m_recovery.emplace(state);
     }
-    OfferRecoveredCopies();
+    SetTimer(kOfferTimer, 0);
     UpdateData(false);
     return true;
 }

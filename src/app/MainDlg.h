@@ -44,6 +44,8 @@ public:
     // A change waits this long for the next before the copy is written.
     static constexpr unsigned kRecoveryDelayMs = 1000;
     static constexpr int kRecoveryTimer = 1;
+    // Fires once the window is up, to offer the copies earlier runs left over it.
+    static constexpr int kOfferTimer = 2;
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;

@@ -45,6 +45,7 @@ TEST_F(RecoveryCopyTest, WrittenASecondAfterAChangeAndRestoredUnsavedAtTheNextSt
     });
     ui.AnswerMessage(question, IDYES);
     Run([&](CHeadlessUser& user, CMainDlg& main) {
+        user.Wait(0);  // the window is up
         ExpectStatus(user, "*", "*");
         EXPECT_EQ(Labels(main.m_tree)[0], "First Army");
         user.Command(ID_EDIT_UNDO);
@@ -55,7 +56,7 @@ TEST_F(RecoveryCopyTest, WrittenASecondAfterAChangeAndRestoredUnsavedAtTheNextSt
     // Once the file is newer than the copy kept at quitting, the copy is removed unoffered.
     fs::last_write_time(folder / "valdoria.oob",
                         fs::file_time_type::clock::now() + std::chrono::hours(1));
-    Run([](CHeadlessUser&, CMainDlg&) {});
+    Run([](CHeadlessUser& user, CMainDlg&) { user.Wait(0); });
     EXPECT_TRUE(Kept().empty());
 }
 
@@ -100,7 +101,10 @@ TEST_F(RecoveryCopyTest, RemovedBySaveNewOrLoadAnsweredNoAndDiscardedAtStart) {
         }
     });
     ui.AnswerMessage(question, IDNO);
-    Run([&](CHeadlessUser& user, CMainDlg&) { ExpectStatus(user, "-", "-"); });
+    Run([&](CHeadlessUser& user, CMainDlg&) {
+        user.Wait(0);
+        ExpectStatus(user, "-", "-");
+    });
     EXPECT_TRUE(Kept().empty());
 }
 
