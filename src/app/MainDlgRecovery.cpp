@@ -22,6 +22,11 @@ void CMainDlg::OnTreeChanged() {
 // and a message a second after every change would stop the work it is there to keep. The next
 // change tries again.
 void CMainDlg::WriteRecoveryCopy() {
+    // A timer that fires while a question holds up a step waits for the step's end, which
+    // starts it anew.
+    if (m_session.Edit().InStep()) {
+        return;
+    }
     KillTimer(kRecoveryTimer);
     m_bRecoveryDue = false;
     if (!m_recovery || std::string(m_session.OobStatus()) != "*") {

@@ -77,6 +77,10 @@ public:
     void BeginGroup();
     void EndGroup();
 
+    // Whether a step is being made (a group is open): the tree may be half changed, for
+    // instance while a read of a whole tree waits on a question.
+    bool InStep() const { return m_nGroupDepth > 0; }
+
     bool CanUndo() const;
     bool CanRedo() const;
     void Undo();
