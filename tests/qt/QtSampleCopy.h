@@ -1,6 +1,6 @@
-// A copy of the sample in a temporary folder, made the working folder and the user's
-// configuration and state folders while it lives (Accept of the workspace dialog writes the
-// workspace file back), and its Load through the real menu.
+// A copy of the sample in a temporary folder, made the working folder (and the user's folders)
+// while it lives (Accept of the workspace dialog writes the workspace file back), and its Load
+// through the real menu.
 #pragma once
 
 #include <QAction>

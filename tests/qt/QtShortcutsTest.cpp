@@ -1,6 +1,5 @@
-// The main window's menu under the Qt face: every key shown beside a command runs it, except
-// while a label is edited in place, when the keys edit the label; a menu list shows the
-// commands the dialog gives it; a timer fires.
+// The main window's menu under the Qt face: each key runs its command, unless a label is being
+// edited; a menu list runs the commands the dialog gives it; a timer fires.
 #include <gtest/gtest.h>
 
 #include <QAction>

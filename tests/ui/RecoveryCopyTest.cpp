@@ -1,6 +1,5 @@
-// The recovery copy of an order of battle with unsaved changes: written a second after the last
-// change, gone once the file holds the tree again, offered at the next start and restored unsaved
-// or discarded.
+// The recovery copy of unsaved changes: written a second after the last change, gone once the
+// file holds the tree again, offered at the next start and restored unsaved or discarded.
 #include <gtest/gtest.h>
 
 #include <map>
