@@ -38,7 +38,9 @@ void CMainDlg::ShowRecentWorkspaces() {
         for (char c : m_recent.Paths()[i]) {
             text += c == '&' ? "&&" : std::string(1, c);
         }
-        entries.push_back({text, ID_FILE_MRU_FILE1 + static_cast<int>(i)});
+        CMenuItem entry{text, ID_FILE_MRU_FILE1 + static_cast<int>(i)};
+        entry.pathText = true;
+        entries.push_back(std::move(entry));
     }
     SetMenuList(ID_FILE_RECENT, std::move(entries));
 }

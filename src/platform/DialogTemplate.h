@@ -69,6 +69,8 @@ struct CMenuItem {
     // Keys that run the command ("Ctrl+Z"); the first is shown beside the entry.
     std::vector<std::string> keys{};
     bool list = false;
+    // The text names a file (a list's "&1 /path/file"): shown as path fields show paths.
+    bool pathText = false;
 
     bool IsSeparator() const { return id == 0 && popup.empty() && !list; }
     bool IsPopup() const { return !popup.empty() || list; }

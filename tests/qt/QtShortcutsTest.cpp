@@ -68,10 +68,12 @@ TEST(QtShortcutsTest, EachKeyRunsItsCommandButALabelBeingEditedTakesThem) {
         QTest::keyClick(editor, Qt::Key_Escape);
         EXPECT_TRUE(ran.empty());
 
+        // A path's UTF-8 shown as such.
         dlg.SetMenuList(ID_FILE_RECENT,
-                        {{"&1 one", ID_FILE_MRU_FILE1}, {"&2 two", ID_FILE_MRU_FILE1 + 1}});
+                        {{"&1 one", ID_FILE_MRU_FILE1},
+                         {"&2 /C\xC3\xA9", ID_FILE_MRU_FILE1 + 1, {}, {}, false, true}});
         for (QAction* action : window->findChildren<QAction*>()) {
-            if (action->text() == "&2 two") {
+            if (action->text() == QString::fromUtf8("&2 /C\u00E9")) {
                 action->trigger();
             }
         }

@@ -8,7 +8,8 @@
 #include "platform/qt/QtText.h"
 
 QAction* AddMenuCommand(QMenu& menu, const CMenuItem& item) {
-    QAction* action = menu.addAction(ToQString(item.text));
+    QAction* action =
+        menu.addAction(item.pathText ? PathForDisplay(item.text) : ToQString(item.text));
     action->setData(item.id);
     QList<QKeySequence> keys;
     for (const std::string& key : item.keys) {
