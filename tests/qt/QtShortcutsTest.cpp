@@ -80,6 +80,10 @@ TEST(QtShortcutsTest, EachKeyRunsItsCommandButALabelBeingEditedTakesThem) {
         dlg.SetTimer(kTimer, 1);
         EXPECT_TRUE(QTest::qWaitFor([&] { return ran.size() == 2; }));
         EXPECT_EQ(ran, (std::vector<int>{ID_FILE_MRU_FILE1 + 1, kTimer}));
+        QTest::keyClick(view, Qt::Key_F2);
+        Press(QApplication::focusWidget(), "Alt+F");  // a menu's mnemonic still opens its menu
+        ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+        QApplication::activePopupWidget()->close();
     });
 }
 

@@ -62,10 +62,11 @@ QWidget* CQtLabelDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
     auto* editor = new QLineEdit(parent);
     editor->setValidator(new CWindows1252Validator(false, editor));
     // Every key goes to the label while it is edited, none to the menu's keys: Delete, Ctrl+C
-    // and the like edit the text, not the tree.
+    // and the like edit the text, not the tree. Alt with a letter still opens a menu.
     editor->installEventFilter(new CQtEventFilter(
         [](QObject*, QEvent* event) {
-            if (event->type() != QEvent::ShortcutOverride) {
+            if (event->type() != QEvent::ShortcutOverride ||
+                (static_cast<QKeyEvent*>(event)->modifiers() & Qt::AltModifier) != 0) {
                 return false;
             }
             event->accept();
