@@ -3,6 +3,7 @@
 // editor that ends without saving. The next start offers it.
 #include "app/MainDlg.h"
 #include "app/UserFolders.h"
+#include "base/PathResolve.h"
 #include "gamedata/GameDatabase.h"
 #include "model/OobDocument.h"
 #include "model/Workspace.h"
@@ -37,9 +38,11 @@ void CMainDlg::WriteRecoveryCopy() {
     if (workspace != m_strRecoveryOf) {
         DiscardRecoveryCopy();
     }
+    // The header names the file the order of battle is read from, which the next start compares
+    // the copy's age with.
+    const std::string oobFile = AbsolutePath(ResolvePath(m_session.Workspace()->m_strOobFile));
     const std::string text = m_session.Document()->m_writer.ToText(m_tree);
-    if (m_recovery->Write(workspace, AbsolutePath(m_session.Workspace()->m_strOobFile), text)
-            .Done()) {
+    if (m_recovery->Write(workspace, oobFile, text).Done()) {
         m_strRecoveryOf = workspace;
     }
 }
