@@ -56,8 +56,11 @@ run: build
 PREFIX  ?= /usr/local
 DESTDIR ?=
 
+# Configured with the prefix, since the desktop entry and its launcher name installed paths.
 install: build
-	DESTDIR="$(DESTDIR)" cmake --install $(BUILD) --prefix "$(PREFIX)"
+	cmake -S . -B $(BUILD) -DCMAKE_INSTALL_PREFIX="$(PREFIX)" >/dev/null
+	cmake --build $(BUILD) -j $(JOBS)
+	DESTDIR="$(DESTDIR)" cmake --install $(BUILD)
 
 # The libFuzzer targets, one per reader (clang), each run for FUZZ_SECONDS from its committed
 # corpus; new inputs go to $(FUZZ_BUILD)/fuzz-corpus, findings to $(FUZZ_BUILD)/fuzz-findings.

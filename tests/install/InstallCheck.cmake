@@ -25,6 +25,7 @@ expect_success(${prefix}/bin/harnwick-cli --version)
 expect_success(appstreamcli validate-tree --no-net ${prefix})
 file(GLOB desktop ${prefix}/share/applications/*.desktop)
 expect_success(desktop-file-validate ${desktop})
+expect_success(sh -n ${prefix}/libexec/harnwick/harnwick-desktop)
 file(GLOB_RECURSE icons ${prefix}/share/icons/*.png)
 expect_success(pngcheck -q ${icons})
 # groff says what it finds wrong on the error stream.
