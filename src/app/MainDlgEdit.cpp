@@ -9,6 +9,7 @@
 #include "dialogs/StructureDlg.h"
 #include "dialogs/SupplyDlg.h"
 #include "dialogs/UnitDlg.h"
+#include "model/ContainerItems.h"
 #include "model/LeaderItem.h"
 #include "platform/MessageBox.h"
 
@@ -65,8 +66,8 @@ std::unique_ptr<COobItem> EditItem(const CSession& session, const CTreeStore& tr
     }
 }
 
-bool IsContainer(const COobItem* item) {
-    return item && (item->m_nType == TYPE_STRUCTURE || item->m_nType == TYPE_ARMY);
+bool HoldsChildren(const COobItem* item) {
+    return item && IsContainer(*item);
 }
 }  // namespace
 
@@ -86,7 +87,7 @@ void CMainDlg::OnItemProperties() {
 // Structures and armies open and close on a double click, which the tree does itself.
 void CMainDlg::OnTreeDblClick() {
     const HTREEITEM entry = m_tree.GetSelectedItem();
-    if (m_session.IsOpen() && entry && !IsContainer(ItemOf(m_tree, entry))) {
+    if (m_session.IsOpen() && entry && !HoldsChildren(ItemOf(m_tree, entry))) {
         OnItemProperties();
     }
 }
@@ -100,7 +101,7 @@ void CMainDlg::OnEnterKey() {
         return;
     }
     const HTREEITEM entry = m_tree.GetSelectedItem();
-    if (entry && IsContainer(ItemOf(m_tree, entry))) {
+    if (entry && HoldsChildren(ItemOf(m_tree, entry))) {
         m_session.ViewStore().Expand(entry, TVE_TOGGLE);
     }
 }
